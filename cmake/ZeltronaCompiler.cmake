@@ -1,0 +1,28 @@
+# A compiler cache makes a second build quick; without one the build is the same, only slower.
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+# Warnings belong to our own targets, so they travel on an interface library and not on the whole build.
+add_library(zeltrona_warnings INTERFACE)
+target_compile_options(zeltrona_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+
+# Positions and lines are worked out bit for bit alike on every machine: no fused multiply-add, no fast-math.
+add_library(zeltrona_exact_math INTERFACE)
+target_compile_options(zeltrona_exact_math INTERFACE -ffp-contract=off -fno-fast-math)
+
+option(ZELTRONA_ASAN "Address and undefined behaviour checks" OFF)
+option(ZELTRONA_COVERAGE "Count what the tests reach" OFF)
+if(ZELTRONA_ASAN)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+if(ZELTRONA_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()
+if(ZELTRONA_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=address,undefined)
+endif()
