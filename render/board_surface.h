@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/records.h"
+#include "render/drawing_basics.h"
 
 #include <QFont>
 #include <QImage>
@@ -14,13 +15,6 @@ namespace zeltrona::render {
 
 using document::Color;
 
-/// A pixel of whole coordinates.
-struct PointI {
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    friend bool operator==(const PointI&, const PointI&) = default;
-};
-
 /// Raster operations by what they do to each bit: destination D, source S.
 enum class RasterOp : std::uint32_t {
     SrcCopy = 0xCC0020,    ///< S
@@ -29,9 +23,6 @@ enum class RasterOp : std::uint32_t {
     MergePaint = 0xBB0226, ///< D or not S
     DstInvert = 0x550009   ///< not D
 };
-
-enum class FillStyle { Solid = 0, Transparent = 1 };
-enum class DrawStyle { Solid = 0 };
 
 /// The font of the surface; sizes in points at 96 to the inch whatever the screen, so that a picture is the same
 /// on every machine.
