@@ -21,8 +21,8 @@ struct FontChoice {
     std::uint8_t charset = 238;
 };
 
-/// QFontDialog with a script list and, with `effects`, a colour; opens on the given face and set at
-/// `tenthsOfPoint` / 10 points (100 when 0) in black.
+/// Opens FontDialogWindow on the given face and set at `tenthsOfPoint` / 10 points (10 when 0) in black.
+/// Without `effects` it offers no colour, underline or strike-out.
 FontChoice chooseFontDialog(QWidget* owner, const QString& fontName, std::uint8_t charset, bool effects,
                             int tenthsOfPoint = 120);
 
