@@ -1,3 +1,21 @@
-// The pictures and texts reach the programs as resource objects beside this library; a library needs one translation
-// unit of its own.
-namespace zeltrona::assets {}
+#include "assets/resources.h"
+
+#include <QtGlobal>
+
+// The macro names symbols of the global namespace, so these two cannot stand in ours.
+static void initArt() {
+    Q_INIT_RESOURCE(art);
+}
+
+static void initStrings() {
+    Q_INIT_RESOURCE(strings);
+}
+
+namespace zeltrona::assets {
+
+void initResources() {
+    initArt();
+    initStrings();
+}
+
+} // namespace zeltrona::assets

@@ -1,0 +1,105 @@
+#include "tools/art/body_drawing.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace zeltrona::art {
+
+namespace {
+
+/// Outline thickness, and the bare ring between two colours.
+constexpr double kOutline = 1.15;
+
+/// Maps a pixel of the picture to the player's own axes.
+class Turn {
+public:
+    Turn(double degrees, double scale, int size)
+        : m_cos(std::cos(degrees * std::numbers::pi / 180.0)),
+          m_sin(std::sin(degrees * std::numbers::pi / 180.0)),
+          m_scale(scale),
+          m_middle(size / 2.0) {}
+
+    Spot toBody(Spot at) const {
+        const double x = (at.x - m_middle) / m_scale;
+        const double y = (at.y - m_middle) / m_scale;
+        return {x * m_sin + y * m_cos, x * m_cos - y * m_sin};
+    }
+
+private:
+    double m_cos;
+    double m_sin;
+    double m_scale;
+    double m_middle;
+};
+
+/// Back of the head, left black as hair; the face is what remains in front.
+bool isHair(const BodyShape& shape, Spot at, double outline) {
+    const Spot fromCrown = at - (shape.head + Spot{0.0, -1.6});
+    return length(fromCrown) < shape.headRadius - outline * 0.4;
+}
+
+bool isJersey(const BodyShape& shape, Spot at, double outline) {
+    return distanceToJersey(shape, at) <= 0.0 && distanceToHead(shape, at) > outline;
+}
+
+bool isSkin(const BodyShape& shape, Spot at, double outline) {
+    if (distanceToHead(shape, at) <= outline) {
+        return distanceToHead(shape, at) <= 0.0 && !isHair(shape, at, outline);
+    }
+    return distanceToJersey(shape, at) > outline && distanceToLimbs(shape.arms, at) <= 0.0;
+}
+
+bool isBody(const BodyShape& shape, Spot at, double outline) {
+    return distanceToJersey(shape, at) <= outline || distanceToHead(shape, at) <= outline
+           || distanceToLimbs(shape.arms, at) <= outline;
+}
+
+template<class Part> QImage drawSheet(int poses, Part part) {
+    QImage sheet = whiteMask({kBodySize, poses * kAngleSteps * kBodySize});
+    for (int k = 0; k < poses * kAngleSteps; ++k) {
+        const BodyMasks masks = drawBody(static_cast<Pose>(k / kAngleSteps), 15.0 * (k % kAngleSteps + 1));
+        placePart(sheet, part(masks), 0, k * kBodySize);
+    }
+    return sheet;
+}
+
+} // namespace
+
+BodyMasks drawBody(Pose pose, double degrees, double scale, int size) {
+    const BodyShape shape = bodyShape(pose);
+    const Turn turn(degrees, scale, size);
+    const double outline = kOutline / scale;
+    const auto draw = [&](auto inside) {
+        return drawMask({size, size}, [&](Spot middle) {
+            return coversHalf(middle, [&](Spot at) { return inside(shape, turn.toBody(at), outline); });
+        });
+    };
+    BodyMasks masks{draw(isSkin), draw(isJersey), draw(isBody)};
+    return masks;
+}
+
+QImage colourBody(const BodyMasks& masks, QRgb skin, QRgb jersey) {
+    QImage picture(masks.mask.size(), QImage::Format_ARGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            QRgb colour = isBlack(masks.mask, x, y) ? qRgb(0, 0, 0) : qRgba(0, 0, 0, 0);
+            colour = isBlack(masks.skin, x, y) ? skin : colour;
+            picture.setPixel(x, y, isBlack(masks.jersey, x, y) ? jersey : colour);
+        }
+    }
+    return picture;
+}
+
+QImage drawSkinSheet() {
+    return drawSheet(kPoses, [](const BodyMasks& masks) { return masks.skin; });
+}
+
+QImage drawJerseySheet() {
+    return drawSheet(1, [](const BodyMasks& masks) { return masks.jersey; });
+}
+
+QImage drawMaskSheet() {
+    return drawSheet(kPoses, [](const BodyMasks& masks) { return masks.mask; });
+}
+
+} // namespace zeltrona::art

@@ -1,0 +1,62 @@
+#include "tools/art/round_marks.h"
+
+#include "tools/art/pixel_grid.h"
+#include "tools/art/round_lines.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zeltrona::art {
+
+namespace {
+
+constexpr QSize kCell{26, 26};
+constexpr Spot kMiddle{13.5, 13.5};
+constexpr double kBallRadius = 7.0;
+
+/// Pixels off the middle of the seams: a cross of two great circles and a bow at each side.
+bool isSeam(Spot from) {
+    const bool cross = std::abs(from.x + from.y) < 0.8 && std::abs(from.x - from.y) < 14.0;
+    const double bow = 8.2;
+    const Spot left = from - Spot{-bow * 0.85, bow * 0.85} * 0.95;
+    const Spot right = from - Spot{bow * 0.85, -bow * 0.85} * 0.95;
+    return cross || std::abs(length(left) - bow * 0.85) < 0.5 || std::abs(length(right) - bow * 0.85) < 0.5;
+}
+
+QRgb ballColourAt(Spot from) {
+    const double rim = length(from);
+    if (rim > kBallRadius - 0.6) {
+        return qRgb(74, 30, 8);
+    }
+    const double light = std::clamp(1.0 - 0.045 * (length(from - Spot{-2.6, -2.6}) - 2.0), 0.72, 1.06);
+    const double tone = isSeam(from) ? 0.62 : 1.0;
+    const auto channel = [&](double value) {
+        return std::clamp(static_cast<int>(value * light * tone), 0, 255);
+    };
+    return qRgb(channel(236), channel(116), channel(38));
+}
+
+} // namespace
+
+QImage drawPlayerRing() {
+    return drawMask(kCell, [](Spot at) {
+        const Spot from = at - kMiddle;
+        return isRing(from.x, from.y, 10.5, 2.0);
+    });
+}
+
+QImage drawBall() {
+    QImage ball(kCell, QImage::Format_RGB888);
+    ball.fill(Qt::black);
+    for (int y = 0; y < ball.height(); ++y) {
+        for (int x = 0; x < ball.width(); ++x) {
+            const Spot from = Spot{x + 0.5, y + 0.5} - kMiddle;
+            if (length(from) <= kBallRadius + 0.5) {
+                ball.setPixel(x, y, ballColourAt(from));
+            }
+        }
+    }
+    return ball;
+}
+
+} // namespace zeltrona::art
