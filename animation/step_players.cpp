@@ -51,6 +51,11 @@ void moveAslant(PlayerRec& p, const PlayerRec& c, const PlayerRec& n, double d) 
     if (n.y < c.y && p.y <= n.y) {
         p.y = n.y;
     }
+    // At an end on the board's upper edge no rounding swallows the last bit of the double: without this the
+    // object would hang a hair below y = 0, and the step with it.
+    if (p.x == n.x) {
+        p.y = n.y;
+    }
 }
 
 void moveStraight(PlayerRec& p, const PlayerRec& c, const PlayerRec& n, double d) {
