@@ -54,15 +54,6 @@ bool isBody(const BodyShape& shape, Spot at, double outline) {
            || distanceToLimbs(shape.arms, at) <= outline;
 }
 
-template<class Part> QImage drawSheet(int poses, Part part) {
-    QImage sheet = whiteMask({kBodySize, poses * kAngleSteps * kBodySize});
-    for (int k = 0; k < poses * kAngleSteps; ++k) {
-        const BodyMasks masks = drawBody(static_cast<Pose>(k / kAngleSteps), 15.0 * (k % kAngleSteps + 1));
-        placePart(sheet, part(masks), 0, k * kBodySize);
-    }
-    return sheet;
-}
-
 } // namespace
 
 BodyMasks drawBody(Pose pose, double degrees, double scale, int size) {
@@ -90,16 +81,20 @@ QImage colourBody(const BodyMasks& masks, QRgb skin, QRgb jersey) {
     return picture;
 }
 
-QImage drawSkinSheet() {
-    return drawSheet(kPoses, [](const BodyMasks& masks) { return masks.skin; });
-}
-
-QImage drawJerseySheet() {
-    return drawSheet(1, [](const BodyMasks& masks) { return masks.jersey; });
-}
-
-QImage drawMaskSheet() {
-    return drawSheet(kPoses, [](const BodyMasks& masks) { return masks.mask; });
+BodyMasks drawBodySheets() {
+    constexpr int kImages = kPoses * kAngleSteps;
+    BodyMasks sheets{whiteMask({kBodySize, kImages * kBodySize}),
+                     whiteMask({kBodySize, kAngleSteps * kBodySize}),
+                     whiteMask({kBodySize, kImages * kBodySize})};
+    for (int k = 0; k < kImages; ++k) {
+        const BodyMasks body = drawBody(static_cast<Pose>(k / kAngleSteps), 15.0 * (k % kAngleSteps + 1));
+        placePart(sheets.skin, body.skin, 0, k * kBodySize);
+        placePart(sheets.mask, body.mask, 0, k * kBodySize);
+        if (k < kAngleSteps) {
+            placePart(sheets.jersey, body.jersey, 0, k * kBodySize);
+        }
+    }
+    return sheets;
 }
 
 } // namespace zeltrona::art

@@ -46,9 +46,10 @@ void addFloors(Files& files) {
 void addPlayers(Files& files) {
     addPicture(files, "pKrugMask", drawPlayerRing());
     addPicture(files, "pBall", drawBall());
-    addPicture(files, "bodies_skin", drawSkinSheet());
-    addPicture(files, "bodies_shirt", drawJerseySheet());
-    addPicture(files, "bodies_mask", drawMaskSheet());
+    const BodyMasks bodies = drawBodySheets();
+    addPicture(files, "bodies_skin", bodies.skin);
+    addPicture(files, "bodies_shirt", bodies.jersey);
+    addPicture(files, "bodies_mask", bodies.mask);
     for (int pose = 0; pose < kPoses; ++pose) {
         const BodyMasks masks = drawBody(static_cast<Pose>(pose), 90.0);
         addPicture(files, "body_pose_" + std::to_string(pose),
