@@ -27,6 +27,8 @@ struct FrameRecords {
 
 /// The element of an empty array: x 0, y 1000, label "0"; it lies below the board and is painted unseen.
 PlayerRec emptyPlayer();
+/// Whether a record has the values of `emptyPlayer` that count: x, y and label.
+bool isEmptyPlayer(const PlayerRec& player);
 /// Owner 0 with one point (0, 0).
 PathRec emptyPath();
 /// One point (0, 1000).
@@ -45,6 +47,7 @@ void resetTxtPics(std::vector<TxtPicRec>& txtPics);
 
 /// The has-data tests look at the length and at element 0 alone, and not at every field of it, so that a real
 /// object that equals the empty state counts as absent. Files in use rely on it.
+/// An array of zero elements, which no procedure leaves behind, has none.
 bool hasPlayers(const std::vector<PlayerRec>& players);
 /// Looks at element 0 only: false for owner 0 with a first point (0, 0), however many paths follow.
 bool hasPaths(const std::vector<PathRec>& paths);
