@@ -1,5 +1,5 @@
 #include "document/number_text.h"
-#include "render/bezier.h"
+#include "render/bezier_path.h"
 #include "render/line_end.h"
 #include "render/line_scene.h"
 #include "render/line_style.h"

@@ -1,4 +1,4 @@
-#include "render/bezier.h"
+#include "render/bezier_path.h"
 
 namespace zeltrona::render {
 

@@ -1,4 +1,4 @@
-#include "render/bezier.h"
+#include "render/bezier_path.h"
 #include "tests/render/line_fixtures.h"
 
 #include <cmath>
