@@ -1,0 +1,164 @@
+#include "render/pen.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+namespace zeltrona::render {
+
+namespace {
+
+// Products of two 33-bit distances do not fit 64 bits.
+__extension__ using Wide = __int128;
+
+/// A hair line seen along its longer axis, from the end where that axis is smaller.
+struct HairLine {
+    std::int64_t major = 0;
+    std::int64_t minor = 0;
+    std::int64_t length = 0; ///< steps along the longer axis
+    std::int64_t rise = 0;   ///< distance along the shorter axis, not negative
+    int direction = 1;       ///< of the shorter axis
+    bool steep = false;      ///< the longer axis is y
+};
+
+HairLine hairLineOf(PointI from, PointI to) {
+    const bool steep = std::abs(std::int64_t{to.y} - from.y) > std::abs(std::int64_t{to.x} - from.x);
+    if (steep) {
+        std::swap(from.x, from.y);
+        std::swap(to.x, to.y);
+    }
+    if (from.x > to.x) {
+        std::swap(from, to);
+    }
+    const std::int64_t rise = std::int64_t{to.y} - from.y;
+    return {from.x, from.y, std::int64_t{to.x} - from.x, std::abs(rise), rise < 0 ? -1 : 1, steep};
+}
+
+template<class Int> std::int64_t roundedRise(const HairLine& line, std::int64_t step) {
+    const Int doubled = 2 * Int{line.rise} * step + line.length;
+    const Int whole = doubled / (2 * Int{line.length});
+    const bool half = doubled == whole * 2 * Int{line.length};
+    return static_cast<std::int64_t>(half && 2 * step <= line.length ? whole - 1 : whole);
+}
+
+/// Shorter-axis distance after `step` steps: the nearest whole number; of two as near, the one that is nearer
+/// to the end that the step is nearer to.
+std::int64_t riseAt(const HairLine& line, std::int64_t step) {
+    constexpr std::int64_t kShort = 1 << 30;
+    if (line.length == 0) {
+        return 0;
+    }
+    return line.length < kShort ? roundedRise<std::int64_t>(line, step) : roundedRise<Wide>(line, step);
+}
+
+void strokeHair(const PixelView& view, PointI from, PointI to, std::uint32_t pixel) {
+    const HairLine line = hairLineOf(from, to);
+    const int extent = line.steep ? view.height : view.width;
+    const std::int64_t first = std::max<std::int64_t>(0, -line.major);
+    const std::int64_t last = std::min(line.length, extent - 1 - line.major);
+    for (std::int64_t step = first; step <= last; ++step) {
+        const std::int64_t along = line.major + step;
+        const std::int64_t across = line.minor + line.direction * riseAt(line, step);
+        if (line.steep) {
+            setPixel(view, across, along, pixel);
+        } else {
+            setPixel(view, along, across, pixel);
+        }
+    }
+}
+
+/// Part of a row; empty when right < left.
+struct Reach {
+    double left = HUGE_VAL;
+    double right = -HUGE_VAL;
+
+    void add(double from, double to) {
+        left = std::min(left, from);
+        right = std::max(right, to);
+    }
+    /// Keeps x with low <= slope * x + offset <= high.
+    void keep(double slope, double offset, double low, double high) {
+        if (slope == 0.0) {
+            if (offset < low || offset > high) {
+                *this = {};
+            }
+            return;
+        }
+        const double one = (low - offset) / slope;
+        const double other = (high - offset) / slope;
+        left = std::max(left, std::min(one, other));
+        right = std::min(right, std::max(one, other));
+    }
+};
+
+/// The pen's round end at `middle`.
+void addDisc(Reach& reach, PointD middle, double radius, double y) {
+    const double rest = radius * radius - (y - middle.y) * (y - middle.y);
+    if (rest >= 0.0) {
+        reach.add(middle.x - std::sqrt(rest), middle.x + std::sqrt(rest));
+    }
+}
+
+/// The straight part between the ends.
+void addBar(Reach& reach, PointD from, PointD to, double radius, double y) {
+    const double length = std::hypot(to.x - from.x, to.y - from.y);
+    if (length == 0.0) {
+        return;
+    }
+    const double ux = (to.x - from.x) / length;
+    const double uy = (to.y - from.y) / length;
+    Reach bar{-HUGE_VAL, HUGE_VAL};
+    bar.keep(ux, (y - from.y) * uy - from.x * ux, 0.0, length);
+    bar.keep(-uy, (y - from.y) * ux + from.x * uy, -radius, radius);
+    if (bar.left <= bar.right) {
+        reach.add(bar.left, bar.right);
+    }
+}
+
+void fillReach(const PixelView& view, int y, const Reach& reach, std::uint32_t pixel) {
+    // A place that should lie exactly on the edge counts as inside, whichever side its last bit fell on.
+    constexpr double kSlack = 1e-6;
+    if (reach.left > reach.right || reach.right < -1.0 || reach.left > view.width) {
+        return;
+    }
+    const double left = std::ceil(std::max(reach.left, 0.0) - kSlack);
+    const double right = std::floor(std::min<double>(reach.right, view.width) + kSlack);
+    fillSpan(view, y, static_cast<std::int64_t>(left), static_cast<std::int64_t>(right), pixel);
+}
+
+} // namespace
+
+void strokeWide(const PixelView& view, PointD from, PointD to, Pen pen) {
+    const double lean = pen.width % 2 == 0 ? -0.5 : 0.0;
+    const double radius = std::max(pen.width, 1) / 2.0;
+    from = {from.x + lean, from.y + lean};
+    to = {to.x + lean, to.y + lean};
+    const double top = std::max(std::ceil(std::min(from.y, to.y) - radius), 0.0);
+    const double bottom = std::min(std::floor(std::max(from.y, to.y) + radius), view.height - 1.0);
+    for (double y = top; y <= bottom; y += 1.0) {
+        Reach reach;
+        addDisc(reach, from, radius, y);
+        addDisc(reach, to, radius, y);
+        addBar(reach, from, to, radius, y);
+        fillReach(view, static_cast<int>(y), reach, pen.pixel);
+    }
+}
+
+void strokeSegment(const PixelView& view, PointI from, PointI to, Pen pen) {
+    if (pen.width <= 1) {
+        strokeHair(view, from, to, pen.pixel);
+        return;
+    }
+    strokeWide(view, {double(from.x), double(from.y)}, {double(to.x), double(to.y)}, pen);
+}
+
+void strokeDot(const PixelView& view, PointI at, Pen pen) {
+    if (pen.width <= 1) {
+        setPixel(view, at.x, at.y, pen.pixel);
+        return;
+    }
+    strokeWide(view, {double(at.x), double(at.y)}, {double(at.x), double(at.y)}, pen);
+}
+
+} // namespace zeltrona::render

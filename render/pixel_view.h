@@ -1,0 +1,61 @@
+#pragma once
+
+#include "document/records.h"
+#include "render/raster_ops.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace zeltrona::render {
+
+/// Borrowed pixels to read.
+struct ConstPixelView {
+    const std::uint32_t* pixels = nullptr;
+    int width = 0;
+    int height = 0;
+    std::ptrdiff_t stride = 0; ///< words from one row to the next
+
+    const std::uint32_t* row(std::int64_t y) const {
+        return pixels + static_cast<std::ptrdiff_t>(y) * stride;
+    }
+};
+
+/// Borrowed pixels to draw on. All shapes are drawn through one, and clip themselves to it: a coordinate may
+/// be any number, and the work done is bounded by the view's own size.
+struct PixelView {
+    std::uint32_t* pixels = nullptr;
+    int width = 0;
+    int height = 0;
+    std::ptrdiff_t stride = 0;
+
+    std::uint32_t* row(std::int64_t y) const { return pixels + static_cast<std::ptrdiff_t>(y) * stride; }
+    bool contains(std::int64_t x, std::int64_t y) const {
+        return x >= 0 && y >= 0 && x < width && y < height;
+    }
+};
+
+/// 0x00BBGGRR as a pixel; bits above the colour do not count.
+std::uint32_t pixelOf(document::Color color);
+/// The colour of a pixel, 0x00BBGGRR.
+document::Color colorOf(std::uint32_t pixel);
+
+void fillAll(const PixelView& view, std::uint32_t pixel);
+/// Draws the pixel when it lies in the view.
+void setPixel(const PixelView& view, std::int64_t x, std::int64_t y, std::uint32_t pixel);
+/// Draws row `y` from `left` to `right`, both included; nothing when right < left.
+void fillSpan(const PixelView& view, std::int64_t y, std::int64_t left, std::int64_t right,
+              std::uint32_t pixel);
+
+/// A rectangle of a copy: where it goes, its size, and where it comes from.
+struct BlockCopy {
+    std::int64_t x = 0;
+    std::int64_t y = 0;
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+    std::int64_t sourceX = 0;
+    std::int64_t sourceY = 0;
+};
+/// Combines the rectangle of `source` with the view; what falls outside either is left out.
+void copyBlock(const PixelView& view, const ConstPixelView& source, BlockCopy block, RasterOp op);
+
+} // namespace zeltrona::render
