@@ -1,0 +1,53 @@
+#pragma once
+
+#include "render/pixel_view.h"
+#include "render/surface_font.h"
+
+#include <QHash>
+#include <QRect>
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+namespace zeltrona::render {
+
+struct TextSize {
+    int width = 0;
+    int height = 0;
+};
+
+/// Turns text into pixels that are drawn or not, and remembers the shapes of what it drew lately: a redraw
+/// prints the same labels again and again, and shaping them anew would cost more than the rest of it.
+class TextRaster {
+public:
+    /// Width of the widest line; height of all lines. An empty text is one line high.
+    TextSize measure(const SurfaceFont& font, const QString& text);
+    /// Draws the lines below each other from (x, y), the left top corner of the block.
+    void draw(const PixelView& view, const SurfaceFont& font, const QString& text, std::int64_t x,
+              std::int64_t y, std::uint32_t pixel);
+
+private:
+    struct Key {
+        SurfaceFont font;
+        QString text;
+        friend bool operator==(const Key&, const Key&) = default;
+        friend size_t qHash(const Key& key, size_t seed) {
+            return qHashMulti(seed, key.font.name, key.font.size, key.text);
+        }
+    };
+    /// One byte a pixel of `area`, which is placed relative to the left top corner of the block.
+    struct Shape {
+        TextSize size;
+        QRect area;
+        std::vector<std::uint8_t> ink;
+    };
+    static Shape shapeOf(const SurfaceFont& font, const QString& text, const QRect& area);
+    static void paint(const PixelView& view, const Shape& shape, std::int64_t x, std::int64_t y,
+                      std::uint32_t pixel);
+    const Shape& remembered(const SurfaceFont& font, const QString& text);
+
+    QHash<Key, Shape> m_shapes;
+};
+
+} // namespace zeltrona::render
