@@ -48,13 +48,12 @@ std::string speedTextDown(std::string_view text) {
     return value <= kSlowest ? "1" : numberText(value);
 }
 
-std::string fullScreenSpeedTextUp(std::string_view text) {
-    const double value = document::leadingNumber(text);
-    return numberText((value >= kFastest ? kFastest - 1.0 : value) + 1.0);
+bool isFastestSpeed(std::string_view text) {
+    return document::leadingNumber(text) >= kFastest;
 }
 
-std::string fullScreenSpeedTextDown(std::string_view text) {
-    return numberText(document::leadingNumber(text) - 1.0);
+std::string plainSpeedText(std::string_view text, int change) {
+    return numberText(document::leadingNumber(text) + change);
 }
 
 } // namespace zeltrona::animation

@@ -20,9 +20,9 @@ std::string keptFullScreenSpeedText(std::string_view text);
 std::string speedTextUp(std::string_view text);
 std::string speedTextDown(std::string_view text);
 
-/// The full screen's own box after its Up: at 9 or more it first falls to 8, so that it ends at "9".
-std::string fullScreenSpeedTextUp(std::string_view text);
-/// ... after its Down: the number less 1, "0" included, which the box then turns into "3".
-std::string fullScreenSpeedTextDown(std::string_view text);
+/// Whether the number in the text is 9 or more.
+bool isFastestSpeed(std::string_view text);
+/// The number in the text and `change`, past both ends: the full screen's box goes through "0" to "3".
+std::string plainSpeedText(std::string_view text, int change);
 
 } // namespace zeltrona::animation
