@@ -17,8 +17,8 @@ struct LineScene {
 };
 
 // The procedures append to `out` what they paint, in painting order, and leave its pen as the surface keeps
-// it. A line under construction has a rubber band from its last point to the pointer, and its end stands
-// there.
+// it.
+// A line under construction has a rubber band from its last point to the pointer, and its end stands there.
 
 /// All lines; nothing when there is no line.
 void drawPaths(LineDrawing& out, const LineScene& scene, float pointerX, float pointerY);

@@ -61,8 +61,7 @@ using LinePrimitive = std::variant<SegmentPrimitive, ArcPrimitive, PolygonPrimit
 
 /// What a walk over movement lines gives: primitives in painting order, and the pen.
 /// Reason: some lines end early and leave the pen as they set it, which later drawing on the surface shows.
-/// So the
-///         pen goes in as it stands on the surface, and comes out as the surface keeps it.
+///         So the pen goes in as it stands on the surface, and comes out as the surface keeps it.
 struct LineDrawing {
     LinePen pen;
     std::vector<LinePrimitive> primitives;

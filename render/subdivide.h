@@ -27,12 +27,12 @@ PitchWindow visiblePitches(float x1, float y1, float x2, float y2, const ClipBox
 
 /// Cuts the segment into points 5 board units apart for dashes and waves.
 /// Shape:  point 0 is (x1, y1), point i lies 5 * i along; the last is (x2, y2) only when the rounded length
-/// is no
-///         multiple of 5. A segment of no length has one point. `points` gets those inside the window alone.
+///         is no multiple of 5. A segment of no length has one point. `points` gets those of the window
+///         alone.
 /// Units:  board pixels, y down; `unit` other than 1 leaves `points` as it is.
 /// Reason: the last step is short rather than stretched, so that a dash keeps its length on every line. The
-/// count of
-///         a diagonal comes from the exact length and its rest from the rounded one: lines in use look so.
+///         count of a diagonal comes from the exact length and its rest from the rounded one: lines in use
+///         look so.
 void subdivideSegment(std::vector<document::PointF>& points, float x1, float y1, float x2, float y2, int unit,
                       PitchWindow window = {});
 
