@@ -1,27 +1,20 @@
 #include "tools/art/court_sheets.h"
 
 #include "tools/art/court_drawing.h"
+#include "tools/art/court_placing.h"
 #include "tools/art/pixel_grid.h"
 
 namespace zeltrona::art {
 
 namespace {
 
-/// The widths between the side lines, in pixels; the scale follows, so that both rule books fill the picture
-/// alike.
-constexpr double kHalfCourtWidth = 336.0;
-constexpr double kWholeCourtWidth = 276.0;
-constexpr double kWholeCourtWidthNorthAmerican = 272.0;
+/// The widths between the side lines of the small pictures, in pixels.
 constexpr double kHalfPreviewWidth = 148.0;
 constexpr double kWholePreviewWidth = 82.0;
 
 constexpr int kPreviewWidth = 160;
 constexpr int kHalfPreviewHeight = 146;
 constexpr int kWholePreviewHeight = 293;
-
-CourtPlan planOfWidth(const CourtFacts& facts, double width, int weight) {
-    return planCourt(facts, width / facts.width, weight);
-}
 
 QImage drawWholePreview(const CourtFacts& facts) {
     const QImage shown =
@@ -37,8 +30,8 @@ QImage drawSmallCourtSheet() {
     constexpr int kBand = 330;
     QImage sheet = whiteMask({361, 6 * kBand});
     int y = 0;
-    for (const CourtFacts& facts : courtFacts()) {
-        const CourtPlan plan = planOfWidth(facts, kHalfCourtWidth, 2);
+    for (const int court : {1, 4, 7}) {
+        const CourtPlan plan = planOfCourt(court);
         for (const BasketSide side : {BasketSide::Top, BasketSide::Bottom}) {
             placePart(sheet, drawHalfCourt(plan, {360, kBand}, side), 0, y);
             y += kBand;
@@ -51,10 +44,8 @@ QImage drawBigCourtSheet() {
     constexpr int kBand = 290;
     QImage sheet = whiteMask({530, 3 * kBand});
     int y = 0;
-    for (const CourtFacts& facts : courtFacts()) {
-        const bool metric = facts.length < 50.0;
-        const double width = metric ? kWholeCourtWidth : kWholeCourtWidthNorthAmerican;
-        placePart(sheet, drawWholeCourt(planOfWidth(facts, width, 2), {530, kBand}), 0, y);
+    for (const int court : {3, 6, 9}) {
+        placePart(sheet, drawWholeCourt(planOfCourt(court), {530, kBand}), 0, y);
         y += kBand;
     }
     return sheet;
