@@ -18,7 +18,8 @@ TextLine LineScanner::next() {
     const std::size_t stop = std::min(m_nextCr, m_nextLf);
     std::size_t after = stop;
     if (stop < m_text.size()) {
-        after = m_nextCr + 1 == m_nextLf ? stop + 2 : stop + 1;
+        const bool isPair = m_nextCr == stop && m_nextLf == stop + 1 && m_nextLf < m_text.size();
+        after = isPair ? stop + 2 : stop + 1;
     }
     const TextLine line{m_text.substr(m_at, stop - m_at), m_text.substr(stop, after - stop)};
     m_at = after;
