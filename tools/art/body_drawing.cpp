@@ -32,19 +32,13 @@ private:
     double m_middle;
 };
 
-/// Back of the head, left black as hair; the face is what remains in front.
-bool isHair(const BodyShape& shape, Spot at, double outline) {
-    const Spot fromCrown = at - (shape.head + Spot{0.0, -1.6});
-    return length(fromCrown) < shape.headRadius - outline * 0.4;
-}
-
 bool isJersey(const BodyShape& shape, Spot at, double outline) {
     return distanceToJersey(shape, at) <= 0.0 && distanceToHead(shape, at) > outline;
 }
 
 bool isSkin(const BodyShape& shape, Spot at, double outline) {
     if (distanceToHead(shape, at) <= outline) {
-        return distanceToHead(shape, at) <= 0.0 && !isHair(shape, at, outline);
+        return distanceToHead(shape, at) <= 0.0;
     }
     return distanceToJersey(shape, at) > outline && distanceToLimbs(shape.arms, at) <= 0.0;
 }

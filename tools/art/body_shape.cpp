@@ -33,14 +33,11 @@ double distanceToConvex(const std::vector<Spot>& outline, Spot at) {
 }
 
 double distanceToLimb(const Limb& limb, Spot at) {
-    double nearest = std::numeric_limits<double>::max();
+    double nearest = length(at - limb.joints.back()) - limb.hand;
     for (std::size_t i = 0; i + 1 < limb.joints.size(); ++i) {
         const Spot a = limb.joints[i];
         const Spot b = limb.joints[i + 1];
-        const double foot = footOn(a, b, at);
-        const bool last = i + 2 == limb.joints.size();
-        const double radius = last ? limb.radius + (limb.tip - limb.radius) * foot : limb.radius;
-        nearest = std::min(nearest, length(at - (a + (b - a) * foot)) - radius);
+        nearest = std::min(nearest, length(at - (a + (b - a) * footOn(a, b, at))) - limb.radius);
     }
     return nearest;
 }
@@ -52,8 +49,8 @@ std::vector<Spot> mirrored(std::vector<Spot> joints) {
     return joints;
 }
 
-constexpr double kArm = 2.3;
-constexpr double kHand = 2.3;
+constexpr double kArm = 2.2;
+constexpr double kHand = 3.0;
 
 std::vector<Limb> bothArms(const std::vector<Spot>& right) {
     return {{right, kArm, kHand}, {mirrored(right), kArm, kHand}};
@@ -62,26 +59,26 @@ std::vector<Limb> bothArms(const std::vector<Spot>& right) {
 std::vector<Limb> armsOf(Pose pose) {
     switch (pose) {
     case Pose::ArmsForward:
-        return bothArms({{7.5, 2.0}, {9.0, 8.5}, {4.0, 17.5}});
+        return bothArms({{8.0, 3.0}, {10.5, 10.0}, {4.4, 20.0}});
     case Pose::ArmsWide:
-        return bothArms({{7.5, 2.0}, {14.0, 2.5}, {19.0, 8.5}});
+        return bothArms({{7.5, 1.5}, {14.0, 2.0}, {18.8, 8.2}});
     case Pose::Dribbling:
-        return {{{{7.5, 2.0}, {11.0, 8.0}, {9.0, 17.5}}, kArm, kHand},
-                {{{-7.5, 2.0}, {-12.5, 4.5}, {-11.0, 10.5}}, kArm, kHand}};
+        return {{{{8.0, 2.0}, {12.0, 8.5}, {7.5, 18.5}}, kArm, kHand},
+                {{{-8.0, 1.5}, {-14.0, 4.0}, {-10.5, 12.0}}, kArm, kHand}};
     case Pose::Standing:
         break;
     }
-    return bothArms({{7.5, 1.0}, {11.5, 2.0}, {11.0, 9.0}});
+    return bothArms({{8.0, 1.0}, {12.2, 2.5}, {11.2, 11.0}});
 }
 
 } // namespace
 
 BodyShape bodyShape(Pose pose) {
     BodyShape shape;
-    shape.jersey = {{-3.0, -6.5}, {-5.5, 1.0}, {-4.5, 2.0}, {4.5, 2.0}, {5.5, 1.0}, {3.0, -6.5}};
-    shape.jerseyRound = 3.0;
-    shape.head = {0.0, 8.0};
-    shape.headRadius = 4.4;
+    shape.jersey = {{-2.6, -4.4}, {-4.3, 0.2}, {-3.4, 1.8}, {3.4, 1.8}, {4.3, 0.2}, {2.6, -4.4}};
+    shape.jerseyRound = 4.4;
+    shape.head = {0.0, 9.9};
+    shape.headRadius = 4.7;
     shape.arms = armsOf(pose);
     return shape;
 }

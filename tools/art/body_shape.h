@@ -11,11 +11,12 @@ enum class Pose { Standing, ArmsForward, ArmsWide, Dribbling };
 inline constexpr int kPoses = 4;
 inline constexpr int kAngleSteps = 6;
 
-/// A limb: a line through `joints` with the half thickness `radius`, narrowing to `tip` at its last joint.
+/// An arm: a line from the shoulder over the elbow to the wrist, `radius` its half thickness, with a round
+/// hand around its end.
 struct Limb {
     std::vector<Spot> joints;
     double radius = 0.0;
-    double tip = 0.0;
+    double hand = 0.0;
 };
 
 /// A player leaning forward, seen from above.
@@ -28,8 +29,7 @@ struct BodyShape {
     double jerseyRound = 0.0;
     Spot head;
     double headRadius = 0.0;
-    std::vector<Limb> arms; ///< upper arms to hands, partly under the jersey
-    std::vector<Limb> legs; ///< what shows of them behind the jersey
+    std::vector<Limb> arms; ///< partly under the jersey
 };
 
 BodyShape bodyShape(Pose pose);

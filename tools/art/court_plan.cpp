@@ -42,7 +42,7 @@ CourtPlan planCourt(const CourtFacts& facts, double scale, int weight) {
     plan.length = roundToParityOf(weight, facts.length * scale);
     plan.halfWidth = std::round(facts.width / 2 * scale);
     plan.basket = std::round(facts.basket * scale);
-    plan.ring = std::round(facts.ring / 2 * scale);
+    plan.ring = facts.ring / 2 * scale - 0.5;
     plan.board = std::round(facts.board * scale);
     plan.boardHalf = std::round(facts.boardWidth / 2 * scale);
     plan.circle = facts.circle * scale;

@@ -14,7 +14,7 @@ struct CourtPlan {
     double length = 0.0;        ///< between the inner edges of the end lines
     double halfWidth = 0.0;     ///< from the middle to the inner edge of a side line
     double basket = 0.0;        ///< middle of the ring
-    double ring = 0.0;          ///< radius of the ring's one pixel line, measured to its middle
+    double ring = 0.0;          ///< radius to the middle of the ring's one pixel line
     double board = 0.0;         ///< front face
     double boardHalf = 0.0;     ///<
     double laneLength = 0.0;    ///<

@@ -27,12 +27,13 @@ std::vector<Shape> mark(const QColor& ball, const QColor& cut, Seams seams) {
     std::vector<Shape> shapes{{circle({32, 32}, 31), ball, 0.0}};
     if (seams == Seams::On) {
         const QColor seam = ball.darker(125);
-        append(shapes, {{polyline({{10.8, 10.8}, {53.2, 53.2}}), seam, 2.4},
-                        {arc({1.5, 62.5}, 33.0, -1.5, 93.0), seam, 2.4},
-                        {arc({62.5, 1.5}, 33.0, 178.5, 93.0), seam, 2.4}});
+        append(shapes, {{polyline({{11.5, 11.5}, {52.5, 52.5}}), seam, 2.4},
+                        {arc({1.5, 62.5}, 33.0, 4.5, 81.0), seam, 2.4},
+                        {arc({62.5, 1.5}, 33.0, 184.5, 81.0), seam, 2.4}});
     }
-    append(shapes, {{polyline({{17, 18.5}, {44, 18.5}, {18, 44.5}, {36, 44.5}}), cut, 7.0},
-                    {polygon({{53.5, 44.5}, {37, 34.5}, {37, 54.5}}), cut, 0.0}});
+    // The bars lie on whole pixels of the smallest icon, a quarter of this grid.
+    append(shapes, {{polyline({{18, 16}, {44, 16}, {19, 40}, {38, 40}}), cut, 8.0},
+                    {polygon({{57, 40}, {38, 28}, {38, 52}}), cut, 0.0}});
     return shapes;
 }
 
@@ -48,11 +49,10 @@ VectorPicture logo(const QColor& ink) {
 
 VectorPicture splash() {
     VectorPicture picture{{400, 200}, {{rectangle(0, 0, 400, 200), kNight, 0.0}}};
-    append(picture.shapes, {{circle({400, 100}, 130), kNightLine, 2.0},
-                            {rectangle(290, 56, 112, 88), kNightLine, 2.0},
-                            {circle({290, 100}, 34), kNightLine, 2.0},
-                            {polyline({{-2, 100}, {-2, 100}}), kNightLine, 2.0},
-                            {circle({0, 100}, 40), kNightLine, 2.0}});
+    append(picture.shapes, {{polyline({{-2, 17}, {402, 17}}), kNightLine, 2.0},
+                            {polyline({{-2, 183}, {402, 183}}), kNightLine, 2.0},
+                            {polyline({{82, 17}, {82, 183}}), kNightLine, 2.0},
+                            {circle({82, 100}, 64), kNightLine, 2.0}});
     append(picture.shapes, placed(mark(kAccent, Qt::white, Seams::On), 96.0 / 64.0, 34, 52));
     picture.shapes.push_back(nameAt(154, 87, 26, Qt::white, 5.0));
     return picture;

@@ -22,9 +22,9 @@ double spread(std::uint32_t value) {
     return (static_cast<int>(value % 201U) - 100) / 100.0;
 }
 
-constexpr double kRed = 205.0;
-constexpr double kGreen = 154.0;
-constexpr double kBlue = 93.0;
+constexpr double kRed = 199.0;
+constexpr double kGreen = 147.0;
+constexpr double kBlue = 87.0;
 constexpr double kToneSpread = 0.02;
 constexpr double kWarmthSpread = 0.012;
 constexpr double kGrainSpread = 0.010;
@@ -40,8 +40,8 @@ QRgb shade(double light, double warmth) {
 QRgb floorAt(int along, int across, int boardWidth) {
     const auto row = static_cast<std::uint32_t>(across / boardWidth);
     const int boardLength = boardWidth * 9;
-    const int offset = static_cast<int>(mix(row, 1U) % 4U) * boardLength / 4
-                       + static_cast<int>(row % 2U) * boardLength / 2
+    // Ends step on by about three eighths of a board from row to row, so that no two neighbours end together.
+    const int offset = static_cast<int>(row * static_cast<std::uint32_t>(boardLength * 3 / 8 + 1))
                        + static_cast<int>(mix(row, 2U) % static_cast<std::uint32_t>(boardWidth));
     const int place = along + offset;
     const std::uint32_t board = mix(row, static_cast<std::uint32_t>(place / boardLength) + 16U);

@@ -14,13 +14,10 @@ constexpr QSize kCell{26, 26};
 constexpr Spot kMiddle{13.5, 13.5};
 constexpr double kBallRadius = 7.0;
 
-/// Pixels off the middle of the seams: a cross of two great circles and a bow at each side.
+/// An upright, a level one and a bow at each side, each one pixel thick.
 bool isSeam(Spot from) {
-    const bool cross = std::abs(from.x + from.y) < 0.8 && std::abs(from.x - from.y) < 14.0;
-    const double bow = 8.2;
-    const Spot left = from - Spot{-bow * 0.85, bow * 0.85} * 0.95;
-    const Spot right = from - Spot{bow * 0.85, -bow * 0.85} * 0.95;
-    return cross || std::abs(length(left) - bow * 0.85) < 0.5 || std::abs(length(right) - bow * 0.85) < 0.5;
+    const bool straight = std::abs(from.x) < 0.5 || std::abs(from.y) < 0.5;
+    return straight || isThinCircle(std::abs(from.x) - 10.0, from.y, 6.0);
 }
 
 QRgb ballColourAt(Spot from) {

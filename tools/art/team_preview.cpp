@@ -8,7 +8,7 @@ namespace zeltrona::art {
 
 TeamPreview drawTeamPreview() {
     constexpr int kSize = 26;
-    const BodyMasks masks = drawBody(Pose::Standing, 90.0, 0.8, kSize);
+    const BodyMasks masks = drawBody(Pose::Standing, 90.0, 0.74, kSize);
     TeamPreview preview;
     preview.base = drawParquet({kSize, kSize}, BoardRun::Down, 12);
     for (int y = 0; y < kSize; ++y) {

@@ -47,10 +47,11 @@ std::vector<Shape> doubleSign(const QColor& ink) {
 }
 
 std::vector<Shape> ballSign(const QColor& ink) {
-    return {{circle({10.0, 10.0}, 7.0), ink, kStroke},
-            {polyline({{5.4, 5.4}, {14.6, 14.6}}), ink, 1.5},
-            {arc({3.6, 16.4}, 7.6, -3.0, 96.0), ink, 1.5},
-            {arc({16.4, 3.6}, 7.6, 177.0, 96.0), ink, 1.5}};
+    return {
+        {circle({10.0, 10.0}, 7.0), ink, kStroke},
+        {together({polyline({{3.0, 10.0}, {17.0, 10.0}}), polyline({{10.0, 3.0}, {10.0, 17.0}})}), ink, 1.2},
+        {arc({-1.4, 10.0}, 7.4, -42.0, 84.0), ink, 1.2},
+        {arc({21.4, 10.0}, 7.4, 138.0, 84.0), ink, 1.2}};
 }
 
 std::vector<Shape> triangleSign(const QColor& ink) {

@@ -48,7 +48,7 @@ QByteArray writeShape(const Shape& shape) {
     const QByteArray start = "  <path d=\"" + pathData(shape.path) + "\" ";
     if (shape.width <= 0.0) {
         const QByteArray rule = shape.path.fillRule() == Qt::OddEvenFill ? "evenodd" : "nonzero";
-        return start + "fill=\"" + colour + "\" fill-rule=\"" + rule + "\"/>\n";
+        return start + "fill=\"" + colour + "\" stroke=\"none\" fill-rule=\"" + rule + "\"/>\n";
     }
     return start + "fill=\"none\" stroke=\"" + colour + "\" stroke-width=\"" + number(shape.width)
            + "\" stroke-linecap=\"round\" stroke-linejoin=\"round\"/>\n";
