@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/object_removal.h"
 #include "document/records.h"
 
 #include <cstdint>
@@ -64,8 +65,7 @@ public:
 
     /// Takes the object from the records and its keys from the play, then stores the frame: one replacement
     /// of the file.
-    enum class ObjectClass { Ball, Triangle, Shadow, TxtPic, Line };
-    virtual void removeObject(ObjectClass kind, std::size_t index) = 0;
+    virtual void removeObject(document::ObjectClass kind, std::size_t index) = 0;
 };
 
 } // namespace zeltrona::editor
