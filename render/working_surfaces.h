@@ -1,0 +1,21 @@
+#pragma once
+
+#include "render/board_surface.h"
+#include "render/quarter_turns.h"
+
+namespace zeltrona::render {
+
+/// The surfaces on which players and balls are put together. None keeps anything between two calls: each call
+/// repaints them completely. They stay only so that nothing is made anew for each player.
+struct WorkingSurfaces {
+    WorkingSurfaces();
+
+    BoardSurface pMask{26, 26};  ///< mask of a circle player or a ball
+    BoardSurface p{26, 26};      ///< colours of a circle player
+    BoardSurface sprite{50, 50}; ///< a body as it is put together
+    BoardSurface color{50, 50};  ///< one colour of a body, cut to its shape
+    BoardSurface shape{50, 50};  ///< copy of a shape, to be inverted
+    QuarterTurns turns;          ///< shapes of bodies as turned lately
+};
+
+} // namespace zeltrona::render
