@@ -47,7 +47,7 @@ bool isLane(const CourtPlan& plan, double across, double along) {
 
 bool isFreeThrowCircle(const CourtPlan& plan, double across, double along) {
     const double fromLine = along - (plan.laneLength - plan.weight / 2.0);
-    if (!isRing(across, fromLine, plan.circle, plan.weight)) {
+    if (!isCircleLine(across, fromLine, plan.circle, plan.weight)) {
         return false;
     }
     if (fromLine >= 0.0) {
@@ -66,7 +66,7 @@ bool isThreePoint(const CourtPlan& plan, double across, double along) {
     if (along < plan.threePointEnd) {
         return within(across, plan.threePointHalf - plan.weight, plan.threePointHalf);
     }
-    return isRing(across, along - plan.basket, plan.threePoint, plan.weight);
+    return isCircleLine(across, along - plan.basket, plan.threePoint, plan.weight);
 }
 
 bool isUnderBasket(const CourtPlan& plan, double across, double along) {
@@ -97,8 +97,8 @@ bool isSideMark(const CourtPlan& plan, double across, double along) {
 
 bool isCentreCircle(const CourtPlan& plan, double across, double along) {
     const double fromMiddle = along - plan.length / 2;
-    return isRing(across, fromMiddle, plan.circle, plan.weight)
-           || isRing(across, fromMiddle, plan.innerCentreCircle, plan.weight);
+    return isCircleLine(across, fromMiddle, plan.circle, plan.weight)
+           || isCircleLine(across, fromMiddle, plan.innerCentreCircle, plan.weight);
 }
 
 } // namespace

@@ -20,4 +20,11 @@ bool isThinCircle(double dx, double dy, double radius) {
     return line - 0.5 < far && far <= line + 0.5;
 }
 
+bool isCircleLine(double dx, double dy, double outer, int weight) {
+    if (weight == 1) {
+        return outer > 0.5 && isThinCircle(dx, dy, outer - 0.5);
+    }
+    return isRing(dx, dy, outer, weight);
+}
+
 } // namespace zeltrona::art

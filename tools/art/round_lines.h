@@ -11,4 +11,7 @@ bool isRing(double dx, double dy, double outer, double weight);
 /// doubled.
 bool isThinCircle(double dx, double dy, double radius);
 
+/// One of the two: a circle line of whole weight with the outer radius `outer`; at weight 1 the thin one.
+bool isCircleLine(double dx, double dy, double outer, int weight);
+
 } // namespace zeltrona::art

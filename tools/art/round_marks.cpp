@@ -11,18 +11,20 @@ namespace zeltrona::art {
 namespace {
 
 constexpr QSize kCell{26, 26};
-constexpr Spot kMiddle{13.5, 13.5};
+/// Discs on the board are even: this one lies between four pixels.
+constexpr Spot kMiddle{13.0, 13.0};
 constexpr double kBallRadius = 7.0;
 
-/// An upright, a level one and a bow at each side, each one pixel thick.
+/// An upright, a level one and a bow at each side, each one pixel thick; the straight ones pass on the shaded
+/// side.
 bool isSeam(Spot from) {
-    const bool straight = std::abs(from.x) < 0.5 || std::abs(from.y) < 0.5;
-    return straight || isThinCircle(std::abs(from.x) - 10.0, from.y, 6.0);
+    const bool straight = std::abs(from.x - 0.5) < 0.5 || std::abs(from.y - 0.5) < 0.5;
+    return straight || isThinCircle(std::abs(from.x) - 10.5, from.y, 6.5);
 }
 
 QRgb ballColourAt(Spot from) {
     const double rim = length(from);
-    if (rim > kBallRadius - 0.6) {
+    if (rim > kBallRadius - 0.8) {
         return qRgb(74, 30, 8);
     }
     const double light = std::clamp(1.0 - 0.045 * (length(from - Spot{-2.6, -2.6}) - 2.0), 0.72, 1.06);
@@ -38,7 +40,7 @@ QRgb ballColourAt(Spot from) {
 QImage drawPlayerRing() {
     return drawMask(kCell, [](Spot at) {
         const Spot from = at - kMiddle;
-        return isRing(from.x, from.y, 10.5, 2.0);
+        return isRing(from.x, from.y, 10.0, 2.0);
     });
 }
 
@@ -48,7 +50,7 @@ QImage drawBall() {
     for (int y = 0; y < ball.height(); ++y) {
         for (int x = 0; x < ball.width(); ++x) {
             const Spot from = Spot{x + 0.5, y + 0.5} - kMiddle;
-            if (length(from) <= kBallRadius + 0.5) {
+            if (length(from) <= kBallRadius) {
                 ball.setPixel(x, y, ballColourAt(from));
             }
         }
