@@ -146,6 +146,7 @@ void frmMainFullScreen::paintExitHint() {
 void frmMainFullScreen::placeAnimTools() {
     m_places = ::zeltrona::animation::placeAnimTools(measures(), m_hintTop,
                                                      [](int points) { return extentOf(nameText(), points); });
+    pToolAnim->adjustSize();
     pToolAnim->move(m_places.left, m_places.toolTop);
     update();
 }

@@ -27,7 +27,6 @@ TransportBar::TransportBar(QWidget* parent) : QFrame(parent) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(4, 4, 8, 4);
     row->setSpacing(0);
-    row->setSizeConstraint(QLayout::SetFixedSize);
     cmdAnimFirst =
         addButton("cmdAnimFirst", "anim_first", QStringLiteral("To the first sequence"), kButtonWidth);
     cmdAnimPrev = addButton("cmdAnimPrev", "anim_prev", QStringLiteral("One sequence back"), kButtonWidth);
@@ -38,14 +37,20 @@ TransportBar::TransportBar(QWidget* parent) : QFrame(parent) {
                             kButtonWidth);
     cmdAnimNext = addButton("cmdAnimNext", "anim_next", QStringLiteral("One sequence forward"), kButtonWidth);
     cmdAnimLast = addButton("cmdAnimLast", "anim_last", QStringLiteral("To the last move"), kButtonWidth);
-    row->addSpacing(kGroupGap);
+    addGap();
     cmdAnimDown = addButton("cmdAnimDown", "speed_down", QStringLiteral("Slower"), kArrowWidth);
     makeSpeedBox();
     cmdAnimUp = addButton("cmdAnimUp", "speed_up", QStringLiteral("Faster"), kArrowWidth);
-    row->addSpacing(kGroupGap);
+    addGap();
     makeLoopBox();
-    row->addSpacing(kGroupGap);
+    addGap();
     makeCounter();
+}
+
+// A bar wider than it needs to be keeps its groups together and widens the room between them.
+void TransportBar::addGap() {
+    rowOf(this)->addSpacing(kGroupGap);
+    rowOf(this)->addStretch(1);
 }
 
 TransportButton* TransportBar::addButton(const char* name, const char* sign, const QString& tip, int width) {
