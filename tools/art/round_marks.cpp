@@ -28,7 +28,7 @@ QRgb ballColourAt(Spot from) {
         return qRgb(52, 20, 6);
     }
     const double light = std::clamp(1.06 - 0.035 * length(from - Spot{-2.6, -2.6}), 0.76, 1.06);
-    const double tone = isSeam(from) ? 0.6 : 1.0;
+    const double tone = isSeam(from) ? 0.7 : 1.0;
     const auto channel = [&](double value) {
         return std::clamp(static_cast<int>(value * light * tone), 0, 255);
     };
