@@ -11,7 +11,7 @@ namespace zeltrona::animation {
 
 namespace {
 
-constexpr int kButtonWidth = 26;
+constexpr int kButtonWidth = 24;
 constexpr int kArrowWidth = 20;
 constexpr int kGroupGap = 8;
 
@@ -31,7 +31,7 @@ TransportBar::TransportBar(QWidget* parent) : QFrame(parent) {
         addButton("cmdAnimFirst", "anim_first", QStringLiteral("To the first sequence"), kButtonWidth);
     cmdAnimPrev = addButton("cmdAnimPrev", "anim_prev", QStringLiteral("One sequence back"), kButtonWidth);
     cmdAnimPlay =
-        addButton("cmdAnimPlay", "anim_play", QStringLiteral("Play from the beginning"), kButtonWidth + 6);
+        addButton("cmdAnimPlay", "anim_play", QStringLiteral("Play from the beginning"), kButtonWidth + 4);
     cmdAnimPause = addButton("cmdAnimPause", "anim_pause", QStringLiteral("Pause, or go on"), kButtonWidth);
     cmdAnimStop = addButton("cmdAnimStop", "anim_stop", QStringLiteral("Stop and show the first sequence"),
                             kButtonWidth);
