@@ -1,3 +1,4 @@
+#include "assets/resources.h"
 #include "platform/program_fonts.h"
 
 #include <QApplication>
@@ -13,6 +14,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setQuitOnLastWindowClosed(false);
+    zeltrona::assets::initResources();
     zeltrona::platform::useProgramFonts();
     return RUN_ALL_TESTS();
 }
