@@ -22,10 +22,12 @@ template<typename Record> std::int16_t upperBound(const std::vector<Record>& arr
 /// all zero; -1, with nothing added, when the index would leave 16 bits.
 template<typename Record> std::int16_t addElement(std::vector<Record>& array, bool hasData) {
     constexpr std::size_t kLargest = std::numeric_limits<std::int16_t>::max();
-    if (!hasData)
+    if (!hasData) {
         return 0;
-    if (array.size() > kLargest)
+    }
+    if (array.size() > kLargest) {
         return -1;
+    }
     array.emplace_back();
     return upperBound(array);
 }

@@ -67,8 +67,9 @@ Box boxOf(PointF a, PointF b) {
 
 bool isOnLine(const document::LineRec& line, PointF place) {
     for (std::size_t i = 1; i < line.pts.size(); ++i) {
-        if (isInside(boxOf(line.pts[i - 1], line.pts[i]), place))
+        if (isInside(boxOf(line.pts[i - 1], line.pts[i]), place)) {
             return true;
+        }
     }
     return false;
 }
@@ -76,8 +77,9 @@ bool isOnLine(const document::LineRec& line, PointF place) {
 template<typename Record, typename Test>
 std::optional<std::size_t> firstOf(const std::vector<Record>& array, Test isHit) {
     const auto hit = std::find_if(array.begin(), array.end(), isHit);
-    if (hit == array.end())
+    if (hit == array.end()) {
         return std::nullopt;
+    }
     return static_cast<std::size_t>(hit - array.begin());
 }
 
@@ -92,16 +94,21 @@ std::optional<Hit> objectAt(EditorContext& editor, PointF place) {
     const auto isHit = [&](const auto& record) { return isInside(boxOf(record), place); };
     const auto isTextHit = [&](const auto& picture) { return isInside(boxOf(picture, editor.host), place); };
     const auto isLineHit = [&](const auto& line) { return isOnLine(line, place); };
-    if (const auto index = firstOf(records.balls, isHit))
+    if (const auto index = firstOf(records.balls, isHit)) {
         return Hit{Kind::Ball, *index};
-    if (const auto index = firstOf(records.triangles, isHit))
+    }
+    if (const auto index = firstOf(records.triangles, isHit)) {
         return Hit{Kind::Triangle, *index};
-    if (const auto index = firstOf(records.shadows, isHit))
+    }
+    if (const auto index = firstOf(records.shadows, isHit)) {
         return Hit{Kind::Shadow, *index};
-    if (const auto index = firstOf(records.txtPics, isTextHit))
+    }
+    if (const auto index = firstOf(records.txtPics, isTextHit)) {
         return Hit{Kind::TxtPic, *index};
-    if (const auto index = firstOf(records.lines, isLineHit))
+    }
+    if (const auto index = firstOf(records.lines, isLineHit)) {
         return Hit{Kind::Line, *index};
+    }
     return std::nullopt;
 }
 
@@ -109,8 +116,9 @@ std::optional<Hit> objectAt(EditorContext& editor, PointF place) {
 
 void deleteObjectAt(EditorContext& editor, float x, float y) {
     const auto hit = objectAt(editor, {x, y});
-    if (!hit)
+    if (!hit) {
         return;
+    }
     editor.host.removeObject(hit->kind, hit->index);
     editor.host.redrawBoard(0.0F, 0.0F);
 }

@@ -35,12 +35,15 @@ const PlayerRec* playerAt(const FrameRecords& records, Side side, std::int16_t i
 /// later of two matching tests counts.
 int quarterOf(int dx, int dy) {
     int quarter = 1;
-    if (dx < 0 && dy <= 0)
+    if (dx < 0 && dy <= 0) {
         quarter = 2;
-    if (dx <= 0 && dy > 0)
+    }
+    if (dx <= 0 && dy > 0) {
         quarter = 3;
-    if (dx > 0 && dy >= 0)
+    }
+    if (dx > 0 && dy >= 0) {
         quarter = 4;
+    }
     return quarter;
 }
 
@@ -61,12 +64,14 @@ BodyRectangle bodyRectangle(std::int16_t angle) {
 
 int hitBodyHand(const FrameRecords& records, Side side, std::int16_t index, std::int16_t x, std::int16_t y) {
     const PlayerRec* player = playerAt(records, side, index);
-    if (player == nullptr)
+    if (player == nullptr) {
         return 0;
+    }
     const int dx = x - roundToInt16(player->x);
     const int dy = y - roundToInt16(player->y);
-    if (dx < 0 || dx > kPictureSide || dy < 0 || dy > kPictureSide)
+    if (dx < 0 || dx > kPictureSide || dy < 0 || dy > kPictureSide) {
         return 0;
+    }
     const BodyRectangle body = bodyRectangle(player->angle);
     const bool isOnBody = dx >= body.left && dx <= body.right && dy >= body.top && dy <= body.bottom;
     return isOnBody ? 1 : 2;
@@ -75,13 +80,15 @@ int hitBodyHand(const FrameRecords& records, Side side, std::int16_t index, std:
 std::int16_t handAngle(const FrameRecords& records, Side side, std::int16_t index, std::int16_t x,
                        std::int16_t y) {
     const PlayerRec* player = playerAt(records, side, index);
-    if (player == nullptr)
+    if (player == nullptr) {
         return 90;
+    }
     const int dx = x - (roundToInt16(player->x) + kPictureSide / 2);
     const int dy = y - (roundToInt16(player->y) + kPictureSide / 2);
     const int quarter = quarterOf(dx, dy);
-    if (dx == 0)
+    if (dx == 0) {
         return quarter == 3 ? 270 : 90;
+    }
     const double slope = std::abs(static_cast<double>(dy) / static_cast<double>(dx));
     const int t = roundToInt16(std::atan(slope) * 180.0 / 3.14);
     const std::array<int, 4> angles{t, 180 - t, 180 + t, 360 - t};

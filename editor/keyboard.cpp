@@ -9,13 +9,15 @@ constexpr int kEscape = 27;
 }
 
 void Form_KeyDown(EditorContext& editor, int KeyCode, int Shift) {
-    if (KeyCode == kEscape && editor.state.lineInProgress)
+    if (KeyCode == kEscape && editor.state.lineInProgress) {
         pic_KeyDown(editor, KeyCode, Shift);
+    }
 }
 
 void pic_KeyDown(EditorContext& editor, int KeyCode, int /*Shift*/) {
-    if (KeyCode == kEscape && editor.state.lineInProgress)
+    if (KeyCode == kEscape && editor.state.lineInProgress) {
         dropLine(editor);
+    }
 }
 
 } // namespace zeltrona::editor

@@ -11,10 +11,11 @@ namespace {
 void cutLinesAtEdit(EditorContext& editor) {
     auto& lines = editor.records.lines;
     const std::int16_t index = editor.state.editLineIndex;
-    if (lines.size() == 1)
+    if (lines.size() == 1) {
         document::resetLines(lines);
-    else if (index > 0 && elementAt(lines, index) != nullptr)
+    } else if (index > 0 && elementAt(lines, index) != nullptr) {
         lines.resize(static_cast<std::size_t>(index));
+    }
 }
 
 void endEdit(EditorContext& editor) {
@@ -27,12 +28,14 @@ void endEdit(EditorContext& editor) {
 document::LineRec* lineForPoint(EditorContext& editor, bool newLine) {
     auto& lines = editor.records.lines;
     const bool hasData = hasLines(lines);
-    if (hasData && !newLine)
+    if (hasData && !newLine) {
         return &lines.back();
+    }
     editor.state.editLineIndex = addElement(lines, hasData);
     auto* line = elementAt(lines, editor.state.editLineIndex);
-    if (line != nullptr)
+    if (line != nullptr) {
         line->pts.clear();
+    }
     return line;
 }
 
@@ -40,8 +43,9 @@ document::LineRec* lineForPoint(EditorContext& editor, bool newLine) {
 
 void addLinePoint(EditorContext& editor, float x, float y, bool newLine) {
     auto* line = lineForPoint(editor, newLine);
-    if (line == nullptr)
+    if (line == nullptr) {
         return;
+    }
     line->pts.push_back({x, y});
     line->curved = editor.state.lineCurved;
     line->color = editor.session.colorLine;
@@ -55,8 +59,9 @@ bool lineMatchesCurveBox(EditorContext& editor) {
 void finishLine(EditorContext& editor) {
     editor.state.lineInProgress = false;
     const auto* line = elementAt(editor.records.lines, editor.state.editLineIndex);
-    if (line != nullptr && line->pts.size() == 1)
+    if (line != nullptr && line->pts.size() == 1) {
         cutLinesAtEdit(editor);
+    }
     endEdit(editor);
 }
 

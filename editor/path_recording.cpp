@@ -17,16 +17,18 @@ constexpr std::int16_t kLargestOwner = 255;
 
 void setFirstPoint(PathRec& path, std::int16_t owner, PointF place) {
     path.owner = static_cast<std::uint8_t>(owner);
-    if (path.pts.empty())
+    if (path.pts.empty()) {
         path.pts.resize(1);
+    }
     path.pts[0] = place;
 }
 
 } // namespace
 
 PathPoint recordPathPoint(std::vector<PathRec>& paths, std::int16_t owner, PointF place) {
-    if (owner < 0 || owner > kLargestOwner)
+    if (owner < 0 || owner > kLargestOwner) {
         return PathPoint::Recorded;
+    }
     if (!hasPaths(paths)) {
         setFirstPoint(paths[0], owner, place);
         return PathPoint::Recorded;
@@ -37,8 +39,9 @@ PathPoint recordPathPoint(std::vector<PathRec>& paths, std::int16_t owner, Point
         setFirstPoint(paths.emplace_back(), owner, place);
         return PathPoint::Recorded;
     }
-    if (path->pts.size() >= kMostPoints)
+    if (path->pts.size() >= kMostPoints) {
         return PathPoint::PathFull;
+    }
     path->pts.push_back(place);
     return PathPoint::Recorded;
 }

@@ -49,27 +49,31 @@ void gripHand(EditorContext& editor, Side side, std::int16_t index, WholePoint a
 
 /// A hand on the way is gripped and hides nothing behind it, so that a later player's body still wins.
 bool hitsPlayer(EditorContext& editor, Side side, std::int16_t index, PointF pointer) {
-    if (editor.session.bodyType != 1)
+    if (editor.session.bodyType != 1) {
         return hitsPicture(placeOf(playersOf(editor, side)[static_cast<std::size_t>(index)]), pointer);
+    }
     const WholePoint at = rounded(pointer);
     const int hit = hitBodyHand(editor.records, side, index, at.x, at.y);
-    if (hit == 2)
+    if (hit == 2) {
         gripHand(editor, side, index, at);
+    }
     return hit == 1;
 }
 
 std::int16_t firstPlayerHit(EditorContext& editor, Side side, PointF pointer) {
     const std::int16_t last = upperBound(playersOf(editor, side));
     for (int i = 0; i <= last; ++i) {
-        if (hitsPlayer(editor, side, static_cast<std::int16_t>(i), pointer))
+        if (hitsPlayer(editor, side, static_cast<std::int16_t>(i), pointer)) {
             return static_cast<std::int16_t>(i);
+        }
     }
     return -1;
 }
 
 bool refusesCurve(EditorContext& editor) {
-    if (!editor.host.curveChecked() || editor.session.currFrame != 1)
+    if (!editor.host.curveChecked() || editor.session.currFrame != 1) {
         return false;
+    }
     editor.host.message(kNoCurveInFirstFrame, MessageIcon::Information);
     return true;
 }
@@ -87,8 +91,9 @@ void holdBall(EditorContext& editor, PointF place, PointF pointer) {
 }
 
 Picking takePlayer(EditorContext& editor, Side side, std::int16_t index, PointF pointer) {
-    if (refusesCurve(editor))
+    if (refusesCurve(editor)) {
         return Picking::Over;
+    }
     const auto* player = elementAt(playersOf(editor, side), index);
     (side == Side::Off ? editor.state.pickedOff : editor.state.pickedDef) = index;
     const PointF place = placeOf(*player);
@@ -100,24 +105,27 @@ Picking takePlayer(EditorContext& editor, Side side, std::int16_t index, PointF 
 
 Picking pickOffence(EditorContext& editor, PointF pointer) {
     const std::int16_t index = firstPlayerHit(editor, Side::Off, pointer);
-    if (index == -1)
+    if (index == -1) {
         return Picking::GoesOn;
+    }
     editor.state.pickedDef = -1;
     return takePlayer(editor, Side::Off, index, pointer);
 }
 
 Picking pickDefence(EditorContext& editor, PointF pointer) {
     const std::int16_t index = firstPlayerHit(editor, Side::Def, pointer);
-    if (index == -1)
+    if (index == -1) {
         return Picking::GoesOn;
+    }
     editor.state.pickedOff = -1;
     editor.state.rotatePick = -1;
     return takePlayer(editor, Side::Def, index, pointer);
 }
 
 Picking takeBall(EditorContext& editor, std::int16_t index, PointF pointer) {
-    if (editor.session.bodyType == 1)
+    if (editor.session.bodyType == 1) {
         editor.state.rotatePick = -1;
+    }
     editor.state.pickedBall = index;
     if (refusesCurve(editor)) {
         editor.state.pickedBall = -1;
@@ -132,10 +140,12 @@ Picking takeBall(EditorContext& editor, std::int16_t index, PointF pointer) {
 
 Picking pickBalls(EditorContext& editor, PointF pointer) {
     for (int i = 0; i <= upperBound(editor.records.balls); ++i) {
-        if (!hitsPicture(placeOf(editor.records.balls[static_cast<std::size_t>(i)]), pointer))
+        if (!hitsPicture(placeOf(editor.records.balls[static_cast<std::size_t>(i)]), pointer)) {
             continue;
-        if (takeBall(editor, static_cast<std::int16_t>(i), pointer) == Picking::Over)
+        }
+        if (takeBall(editor, static_cast<std::int16_t>(i), pointer) == Picking::Over) {
             return Picking::Over;
+        }
     }
     return Picking::GoesOn;
 }
@@ -145,26 +155,33 @@ Picking pickBalls(EditorContext& editor, PointF pointer) {
 Picking pickUnderPointer(EditorContext& editor, float x, float y) {
     editor.state.rotatePick = -1;
     const PointF pointer{x, y};
-    if (pickOffence(editor, pointer) == Picking::Over)
+    if (pickOffence(editor, pointer) == Picking::Over) {
         return Picking::Over;
-    if (pickDefence(editor, pointer) == Picking::Over)
+    }
+    if (pickDefence(editor, pointer) == Picking::Over) {
         return Picking::Over;
+    }
     return pickBalls(editor, pointer);
 }
 
 void holdPickedTogether(EditorContext& editor, float x, float y) {
     EditorState& state = editor.state;
     const PointF pointer{x, y};
-    if (state.pickedOff != -1)
+    if (state.pickedOff != -1) {
         state.groupOff = state.pickedOff;
-    if (const auto* player = elementAt(editor.records.offPlayers, state.pickedOff))
+    }
+    if (const auto* player = elementAt(editor.records.offPlayers, state.pickedOff)) {
         holdPlayer(editor, placeOf(*player), pointer);
-    if (state.pickedDef != -1)
+    }
+    if (state.pickedDef != -1) {
         state.groupDef = state.pickedDef;
-    if (const auto* player = elementAt(editor.records.defPlayers, state.pickedDef))
+    }
+    if (const auto* player = elementAt(editor.records.defPlayers, state.pickedDef)) {
         holdPlayer(editor, placeOf(*player), pointer);
-    if (const auto* ball = elementAt(editor.records.balls, state.pickedBall))
+    }
+    if (const auto* ball = elementAt(editor.records.balls, state.pickedBall)) {
         holdBall(editor, placeOf(*ball), pointer);
+    }
 }
 
 } // namespace zeltrona::editor

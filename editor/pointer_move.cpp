@@ -29,23 +29,27 @@ bool isOnBoard(EditorContext& editor, float x, float y) {
 /// between.
 std::int16_t turnedAngle(std::int16_t angle, int turn) {
     int turned = (angle >= 360 || angle < 0 ? 0 : angle) + turn;
-    if (turned >= 360 || turned <= -360)
+    if (turned >= 360 || turned <= -360) {
         turned = 0;
-    if (turned < 0)
+    }
+    if (turned < 0) {
         turned += 360;
+    }
     return static_cast<std::int16_t>(turned);
 }
 
 void turnPlayer(EditorContext& editor, Side side, std::int16_t index, PointF pointer) {
     auto* player =
         elementAt(side == Side::Off ? editor.records.offPlayers : editor.records.defPlayers, index);
-    if (player == nullptr)
+    if (player == nullptr) {
         return;
+    }
     const std::int16_t angle =
         handAngle(editor.records, side, index, roundToInt16(pointer.x), roundToInt16(pointer.y));
     const int steps = roundToInt16((angle - editor.state.grabDX) / static_cast<double>(kTurnStep));
-    if (steps == 0)
+    if (steps == 0) {
         return;
+    }
     editor.state.grabDX = static_cast<std::int16_t>(editor.state.grabDX + steps * kTurnStep);
     player->angle = turnedAngle(player->angle, steps * kTurnStep);
     editor.host.redrawBoard(0.0F, 0.0F);
@@ -53,8 +57,9 @@ void turnPlayer(EditorContext& editor, Side side, std::int16_t index, PointF poi
 
 Move turnHand(EditorContext& editor, PointF pointer) {
     const std::int16_t grip = editor.state.rotatePick;
-    if (editor.session.bodyType != 1 || grip == -1)
+    if (editor.session.bodyType != 1 || grip == -1) {
         return Move::GoesOn;
+    }
     if (grip < 100 || grip > 299) {
         editor.state.rotatePick = -1;
         return Move::Over;
@@ -68,13 +73,15 @@ Move turnHand(EditorContext& editor, PointF pointer) {
 void catchLostRelease(EditorContext& editor, int button) {
     const EditorState& state = editor.state;
     const bool isGroup = state.groupOff != -1 || state.groupDef != -1;
-    if (button != kLeftButton && state.pickedBall != -1 && isGroup)
+    if (button != kLeftButton && state.pickedBall != -1 && isGroup) {
         pic_MouseUp(editor, 0, 0, 0.0F, 0.0F);
+    }
 }
 
 Move stretchRubberBand(EditorContext& editor, PointF pointer) {
-    if (!editor.state.lineInProgress)
+    if (!editor.state.lineInProgress) {
         return Move::GoesOn;
+    }
     editor.host.redrawBoard(pointer.x, pointer.y);
     return Move::Over;
 }
@@ -100,16 +107,18 @@ bool carryParked(EditorContext& editor, PointF pointer) {
 }
 
 Move carryParkedObject(EditorContext& editor, PointF pointer) {
-    if (!carryParked(editor, pointer))
+    if (!carryParked(editor, pointer)) {
         return Move::GoesOn;
+    }
     editor.host.redrawBoard(pointer.x, pointer.y);
     return Move::Over;
 }
 
 Move recordWhileCurved(EditorContext& editor, std::vector<document::PathRec>& paths, std::int16_t owner,
                        PointF place) {
-    if (!editor.host.curveChecked() || recordPathPoint(paths, owner, place) == PathPoint::Recorded)
+    if (!editor.host.curveChecked() || recordPathPoint(paths, owner, place) == PathPoint::Recorded) {
         return Move::GoesOn;
+    }
     editor.host.message(kPathFull, MessageIcon::Information);
     return Move::Over;
 }
@@ -117,13 +126,15 @@ Move recordWhileCurved(EditorContext& editor, std::vector<document::PathRec>& pa
 Move dragBall(EditorContext& editor, int button, PointF pointer) {
     const EditorState& state = editor.state;
     auto* ball = elementAt(editor.records.balls, state.pickedBall);
-    if (button != kLeftButton || ball == nullptr)
+    if (button != kLeftButton || ball == nullptr) {
         return Move::GoesOn;
+    }
     const PointF place{pointer.x + static_cast<float>(state.ballGrabDX),
                        pointer.y + static_cast<float>(state.ballGrabDY)};
     *ball = {place.x, place.y};
-    if (recordWhileCurved(editor, editor.records.ballPaths, state.pickedBall, place) == Move::Over)
+    if (recordWhileCurved(editor, editor.records.ballPaths, state.pickedBall, place) == Move::Over) {
         return Move::Over;
+    }
     editor.host.redrawBoard(pointer.x, pointer.y);
     return Move::GoesOn;
 }
@@ -134,8 +145,9 @@ Move dragPlayer(EditorContext& editor, Side side, PointF pointer) {
     const bool isOffence = side == Side::Off;
     const std::int16_t index = isOffence ? state.pickedOff : state.pickedDef;
     auto* player = elementAt(isOffence ? records.offPlayers : records.defPlayers, index);
-    if (player == nullptr)
+    if (player == nullptr) {
         return Move::GoesOn;
+    }
     player->x = pointer.x + static_cast<float>(state.grabDX);
     player->y = pointer.y + static_cast<float>(state.grabDY);
     return recordWhileCurved(editor, isOffence ? records.offPaths : records.defPaths, index,
@@ -144,31 +156,39 @@ Move dragPlayer(EditorContext& editor, Side side, PointF pointer) {
 
 void dragPlayers(EditorContext& editor, int button, PointF pointer) {
     const bool isPicked = editor.state.pickedOff != -1 || editor.state.pickedDef != -1;
-    if (button != kLeftButton || !isPicked)
+    if (button != kLeftButton || !isPicked) {
         return;
-    if (dragPlayer(editor, Side::Off, pointer) == Move::Over)
+    }
+    if (dragPlayer(editor, Side::Off, pointer) == Move::Over) {
         return;
-    if (dragPlayer(editor, Side::Def, pointer) == Move::Over)
+    }
+    if (dragPlayer(editor, Side::Def, pointer) == Move::Over) {
         return;
+    }
     editor.host.redrawBoard(pointer.x, pointer.y);
 }
 
 } // namespace
 
 void pic_MouseMove(EditorContext& editor, int Button, int /*Shift*/, float X, float Y) {
-    if (!isOnBoard(editor, X, Y))
+    if (!isOnBoard(editor, X, Y)) {
         return;
+    }
     const PointF pointer{X, Y};
     showStatusHint(editor, editor.state.currTool, true, X, Y);
-    if (turnHand(editor, pointer) == Move::Over)
+    if (turnHand(editor, pointer) == Move::Over) {
         return;
+    }
     catchLostRelease(editor, Button);
-    if (stretchRubberBand(editor, pointer) == Move::Over)
+    if (stretchRubberBand(editor, pointer) == Move::Over) {
         return;
-    if (carryParkedObject(editor, pointer) == Move::Over)
+    }
+    if (carryParkedObject(editor, pointer) == Move::Over) {
         return;
-    if (dragBall(editor, Button, pointer) == Move::Over)
+    }
+    if (dragBall(editor, Button, pointer) == Move::Over) {
         return;
+    }
     dragPlayers(editor, Button, pointer);
 }
 

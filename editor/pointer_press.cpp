@@ -34,8 +34,9 @@ void putButtonUp(EditorContext& editor, std::int16_t index) {
 }
 
 Press endLine(EditorContext& editor, int button, int shift) {
-    if (!editor.state.lineInProgress || (button != kRightButton && shift != kAltKey))
+    if (!editor.state.lineInProgress || (button != kRightButton && shift != kAltKey)) {
         return Press::GoesOn;
+    }
     finishLine(editor);
     return Press::Over;
 }
@@ -43,8 +44,9 @@ Press endLine(EditorContext& editor, int button, int shift) {
 Press startLine(EditorContext& editor, float x, float y) {
     EditorState& state = editor.state;
     const bool isLineTool = state.currTool >= tool::kFirstLine && state.currTool <= tool::kLastLine;
-    if (state.lineInProgress || !isLineTool)
+    if (state.lineInProgress || !isLineTool) {
         return Press::GoesOn;
+    }
     state.lineInProgress = true;
     state.lineTool = state.currTool;
     state.lineCurved = editor.host.curveChecked();
@@ -54,8 +56,9 @@ Press startLine(EditorContext& editor, float x, float y) {
 
 Press extendLine(EditorContext& editor, float x, float y) {
     const EditorState& state = editor.state;
-    if (!state.lineInProgress)
+    if (!state.lineInProgress) {
         return Press::GoesOn;
+    }
     if (lineMatchesCurveBox(editor) && state.currTool == state.lineTool && state.currTool != tool::kNone) {
         addLinePoint(editor, x, y, false);
         editor.host.redrawBoard(x, y);
@@ -67,8 +70,9 @@ Press extendLine(EditorContext& editor, float x, float y) {
 
 void dropBall(EditorContext& editor, float x, float y) {
     auto& balls = editor.records.balls;
-    if (editor.state.currTool != tool::kBall || !hasBalls(balls))
+    if (editor.state.currTool != tool::kBall || !hasBalls(balls)) {
         return;
+    }
     putButtonUp(editor, tool::kBall);
     balls.back() = {x, y};
     editor.host.redrawBoard(x, y);
@@ -76,8 +80,9 @@ void dropBall(EditorContext& editor, float x, float y) {
 
 void dropTriangle(EditorContext& editor, float x, float y) {
     auto& triangles = editor.records.triangles;
-    if (editor.state.currTool != tool::kTriangle || !hasTriangles(triangles))
+    if (editor.state.currTool != tool::kTriangle || !hasTriangles(triangles)) {
         return;
+    }
     putButtonUp(editor, tool::kTriangle);
     triangles.back() = {x, y, editor.session.colorLine};
     editor.host.redrawBoard(x, y);
@@ -85,8 +90,9 @@ void dropTriangle(EditorContext& editor, float x, float y) {
 
 void dropTextPicture(EditorContext& editor, float x, float y) {
     auto& txtPics = editor.records.txtPics;
-    if (editor.state.currTool != tool::kText || !hasTxtPics(txtPics))
+    if (editor.state.currTool != tool::kText || !hasTxtPics(txtPics)) {
         return;
+    }
     putButtonUp(editor, tool::kText);
     txtPics.back().x = x;
     txtPics.back().y = y;
@@ -94,8 +100,9 @@ void dropTextPicture(EditorContext& editor, float x, float y) {
 }
 
 Press fixShadowCorner(EditorContext& editor, float x, float y) {
-    if (editor.state.currTool != tool::kShadow)
+    if (editor.state.currTool != tool::kShadow) {
         return Press::GoesOn;
+    }
     auto& shadow = editor.records.shadows.back();
     if (!editor.state.shadowSizing) {
         editor.state.shadowSizing = true;
@@ -112,15 +119,17 @@ Press fixShadowCorner(EditorContext& editor, float x, float y) {
 
 /// The user took another tool between the shadow's two clicks: that tool's button goes up as well.
 void leaveShadow(EditorContext& editor) {
-    if (editor.state.currTool == tool::kShadow || !editor.state.shadowSizing)
+    if (editor.state.currTool == tool::kShadow || !editor.state.shadowSizing) {
         return;
+    }
     editor.state.shadowSizing = false;
     putButtonUp(editor, tool::kShadow);
 }
 
 Press deleteObject(EditorContext& editor, float x, float y) {
-    if (editor.state.currTool != tool::kDelete)
+    if (editor.state.currTool != tool::kDelete) {
         return Press::GoesOn;
+    }
     deleteObjectAt(editor, x, y);
     return Press::Over;
 }
@@ -129,8 +138,9 @@ void closePress(EditorContext& editor, int button, float x, float y) {
     const EditorState& state = editor.state;
     if (state.pickedOff == -1 && state.pickedDef == -1) {
         showStatusHint(editor, tool::kNone, true, x, y);
-        if (button == kRightButton)
+        if (button == kRightButton) {
             editor.host.openPopUpMenu();
+        }
     } else if (button == kRightButton && editor.session.bodyType == 1) {
         const Side side = state.pickedOff != -1 ? Side::Off : Side::Def;
         openBodyPanel(editor, side, side == Side::Off ? state.pickedOff : state.pickedDef, x, y);
@@ -142,24 +152,31 @@ void closePress(EditorContext& editor, int button, float x, float y) {
 void pic_MouseDown(EditorContext& editor, int Button, int Shift, float X, float Y) {
     editor.host.setTimerEnabled(false);
     readToolFromButtons(editor);
-    if (endLine(editor, Button, Shift) == Press::Over)
+    if (endLine(editor, Button, Shift) == Press::Over) {
         return;
-    if (startLine(editor, X, Y) == Press::Over)
+    }
+    if (startLine(editor, X, Y) == Press::Over) {
         return;
-    if (extendLine(editor, X, Y) == Press::Over)
+    }
+    if (extendLine(editor, X, Y) == Press::Over) {
         return;
+    }
     dropBall(editor, X, Y);
     dropTriangle(editor, X, Y);
     dropTextPicture(editor, X, Y);
-    if (fixShadowCorner(editor, X, Y) == Press::Over)
+    if (fixShadowCorner(editor, X, Y) == Press::Over) {
         return;
+    }
     leaveShadow(editor);
-    if (deleteObject(editor, X, Y) == Press::Over)
+    if (deleteObject(editor, X, Y) == Press::Over) {
         return;
-    if (pickUnderPointer(editor, X, Y) == Picking::Over)
+    }
+    if (pickUnderPointer(editor, X, Y) == Picking::Over) {
         return;
-    if (Shift == kShiftKey)
+    }
+    if (Shift == kShiftKey) {
         holdPickedTogether(editor, X, Y);
+    }
     closePress(editor, Button, X, Y);
 }
 

@@ -29,8 +29,9 @@ void letPlayersGo(EditorContext& editor) {
 
 void letBallGo(EditorContext& editor) {
     EditorState& state = editor.state;
-    if (editor.host.curveChecked())
+    if (editor.host.curveChecked()) {
         putBack(editor.records.balls, state.pickedBall, state.ballOriginX, state.ballOriginY);
+    }
     state.ballOriginX = state.ballOriginY = 0;
     state.ballGrabDX = state.ballGrabDY = 0;
     state.pickedBall = -1;
@@ -42,8 +43,9 @@ void letBallGo(EditorContext& editor) {
 void pic_MouseUp(EditorContext& editor, int /*Button*/, int Shift, float /*X*/, float /*Y*/) {
     editor.host.setTimerEnabled(false);
     editor.state.rotatePick = -1;
-    if (editor.state.lineInProgress)
+    if (editor.state.lineInProgress) {
         return;
+    }
     if (Shift != kShiftKey) {
         letPlayersGo(editor);
         letBallGo(editor);

@@ -15,22 +15,27 @@ constexpr std::int16_t kReadyHint = 31;
 constexpr std::int16_t kCurvedMovementHint = 32;
 
 std::string toolHint(EditorContext& editor, std::int16_t index) {
-    if (index > tool::kLastLine)
+    if (index > tool::kLastLine) {
         return editor.host.localText(static_cast<std::int16_t>(kBallHint + index - tool::kBall));
+    }
     return editor.host.localText(editor.host.curveChecked() ? kCurvedLineHint : kStraightLineHint);
 }
 
 // The three sentences on moving stand in no string table: they are the same in every language.
 std::string pickHint(EditorContext& editor) {
     const EditorState& state = editor.state;
-    if (editor.host.curveChecked())
+    if (editor.host.curveChecked()) {
         return editor.host.localText(kCurvedMovementHint);
-    if (state.pickedBall != -1)
+    }
+    if (state.pickedBall != -1) {
         return "Click and hold on the ball to move it. ";
-    if (state.pickedOff != -1 || state.pickedDef != -1)
+    }
+    if (state.pickedOff != -1 || state.pickedDef != -1) {
         return "Click and hold on the player's icon to move it. ";
-    if (editor.session.bodyType == 1 && state.rotatePick != -1)
+    }
+    if (editor.session.bodyType == 1 && state.rotatePick != -1) {
         return "Click and hold on the player's hand to rotate it. ";
+    }
     return editor.host.localText(kReadyHint);
 }
 

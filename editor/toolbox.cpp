@@ -17,8 +17,9 @@ bool& isDown(EditorContext& editor, std::int16_t index) {
 
 void putOtherButtonsUp(EditorContext& editor, std::int16_t index) {
     for (std::int16_t i = 0; i < tool::kCount; ++i) {
-        if (i == index || !isDown(editor, i))
+        if (i == index || !isDown(editor, i)) {
             continue;
+        }
         isDown(editor, i) = false;
         editor.host.paintToolButton(i, false);
     }
@@ -38,24 +39,27 @@ void leaveTool(EditorContext& editor, std::int16_t index) {
 
 // The button that went up asks as well: the tool sets a colour and is no mode.
 void askLineColor(EditorContext& editor) {
-    if (const auto color = editor.host.askColor(false))
+    if (const auto color = editor.host.askColor(false)) {
         editor.session.colorLine = *color;
+    }
 }
 
 void beginObject(EditorContext& editor, std::int16_t index) {
     bool begun = true;
-    if (index == tool::kText)
+    if (index == tool::kText) {
         begun = beginTextPicture(editor);
-    else if (index == tool::kBall)
+    } else if (index == tool::kBall) {
         beginBall(editor);
-    else if (index == tool::kTriangle)
+    } else if (index == tool::kTriangle) {
         beginTriangle(editor);
-    else if (index == tool::kShadow)
+    } else if (index == tool::kShadow) {
         begun = beginShadow(editor);
-    if (begun)
+    }
+    if (begun) {
         editor.state.currTool = index;
-    else
+    } else {
         leaveTool(editor, index);
+    }
 }
 
 } // namespace
@@ -67,24 +71,29 @@ int toolImageOffset(int number, int state) {
 void Picture1_Click(EditorContext& editor, std::int16_t Index) {
     putOtherButtonsUp(editor, Index);
     turnButton(editor, Index);
-    if (Index == tool::kColor)
+    if (Index == tool::kColor) {
         askLineColor(editor);
-    if (isDown(editor, Index))
+    }
+    if (isDown(editor, Index)) {
         beginObject(editor, Index);
-    if (isDown(editor, Index))
+    }
+    if (isDown(editor, Index)) {
         showStatusHint(editor, Index, false, 0.0F, 0.0F);
+    }
 }
 
 void beginBall(EditorContext& editor) {
     auto& balls = editor.records.balls;
-    if (auto* ball = elementAt(balls, addElement(balls, hasBalls(balls))))
+    if (auto* ball = elementAt(balls, addElement(balls, hasBalls(balls)))) {
         *ball = {kParkingPlace, kParkingPlace};
+    }
 }
 
 void beginTriangle(EditorContext& editor) {
     auto& triangles = editor.records.triangles;
-    if (auto* triangle = elementAt(triangles, addElement(triangles, hasTriangles(triangles))))
+    if (auto* triangle = elementAt(triangles, addElement(triangles, hasTriangles(triangles)))) {
         *triangle = {kParkingPlace, kParkingPlace, editor.session.colorLine};
+    }
 }
 
 bool beginShadow(EditorContext& editor) {
@@ -93,22 +102,26 @@ bool beginShadow(EditorContext& editor) {
     const auto color = editor.host.askColor(true);
     // An open dialog lets the playback go on, which may have changed the frame: look for the element again.
     auto* shadow = elementAt(shadows, index);
-    if (!color || shadow == nullptr)
+    if (!color || shadow == nullptr) {
         return false;
+    }
     *shadow = {kShadowStart, kShadowStart, kShadowStartEnd, kShadowStartEnd, *color};
     return true;
 }
 
 bool beginTextPicture(EditorContext& editor) {
     auto answer = editor.host.askText();
-    if (!answer || answer->text.empty())
+    if (!answer || answer->text.empty()) {
         return false;
+    }
     auto& txtPics = editor.records.txtPics;
     auto* picture = elementAt(txtPics, addElement(txtPics, hasTxtPics(txtPics)));
-    if (picture == nullptr)
+    if (picture == nullptr) {
         return false;
-    if (answer->fontName.empty())
+    }
+    if (answer->fontName.empty()) {
         answer->fontName = "Arial";
+    }
     const float y = static_cast<float>(editor.host.textHeight(answer->text)) + kParkingPlace;
     *picture = {answer->text,         kParkingPlace,    y,
                 answer->fontName,     answer->fontSize, answer->color,
