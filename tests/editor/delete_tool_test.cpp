@@ -30,8 +30,9 @@ struct Place {
 };
 
 void expectHits(BareDesk& desk, const std::string& wanted, const std::vector<Place>& places) {
-    for (const auto& place : places)
+    for (const auto& place : places) {
         EXPECT_EQ(desk.removedAt(place.x, place.y), wanted) << place.x << ' ' << place.y;
+    }
 }
 
 TEST(DeleteTool, NothingHitDoesNothingAtAll) {
@@ -212,8 +213,9 @@ TEST(DeleteTool, SearchesByClassAndWithinItFromTheFirst) {
     desk.records.shadows = {{90, 90, 110, 110, 1}};
     desk.records.txtPics = {picture};
     desk.records.lines = {{0, 1, false, {{90, 90}, {110, 110}}}};
-    for (int i = 0; i < 7; ++i)
+    for (int i = 0; i < 7; ++i) {
         deleteObjectAt(desk.editor, 100, 100);
+    }
     EXPECT_THAT(desk.callsOf("remove"),
                 ElementsAre("remove ball 1", "remove ball 1", "remove triangle 0", "remove triangle 0",
                             "remove shadow 0", "remove text 0", "remove line 0"));

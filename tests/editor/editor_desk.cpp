@@ -9,8 +9,9 @@ namespace zeltrona::editor {
 
 void PrintTo(const EditorState& s, std::ostream* out) {
     *out << "currTool " << s.currTool << ", down";
-    for (const bool down : s.toolDown)
+    for (const bool down : s.toolDown) {
         *out << ' ' << down;
+    }
     *out << "\n line " << s.lineInProgress << s.lineCurved << " tool " << s.lineTool << " index "
          << s.editLineIndex << "\n picked " << s.pickedOff << ' ' << s.pickedDef << ' ' << s.pickedBall
          << " group " << s.groupOff << ' ' << s.groupDef << " rotate " << s.rotatePick << "\n grab "
@@ -46,8 +47,9 @@ const char* nameOf(document::ObjectClass kind) {
 
 template<typename Record> void takeOut(std::vector<Record>& array, std::size_t index) {
     array.erase(array.begin() + static_cast<std::ptrdiff_t>(index));
-    if (array.empty())
+    if (array.empty()) {
         array.resize(1);
+    }
 }
 
 void takeOut(document::FrameRecords& records, document::ObjectClass kind, std::size_t index) {
@@ -60,13 +62,15 @@ void takeOut(document::FrameRecords& records, document::ObjectClass kind, std::s
         return takeOut(records.shadows, index);
     case document::ObjectClass::TxtPic:
         takeOut(records.txtPics, index);
-        if (records.txtPics.size() == 1 && records.txtPics[0] == document::TxtPicRec{})
+        if (records.txtPics.size() == 1 && records.txtPics[0] == document::TxtPicRec{}) {
             document::resetTxtPics(records.txtPics);
+        }
         return;
     case document::ObjectClass::Line:
         takeOut(records.lines, index);
-        if (records.lines.size() == 1 && records.lines[0] == document::LineRec{})
+        if (records.lines.size() == 1 && records.lines[0] == document::LineRec{}) {
             document::resetLines(records.lines);
+        }
         return;
     }
 }
@@ -102,16 +106,18 @@ std::optional<Color> ScriptedHost::askColor(bool cancelIsError) {
         answer = colors.front();
         colors.pop_front();
     }
-    if (answer)
+    if (answer) {
         heldColor = *answer;
+    }
     return cancelIsError ? answer : heldColor;
 }
 
 std::optional<TextAnswer> ScriptedHost::askText() {
     note("text");
     open();
-    if (texts.empty())
+    if (texts.empty()) {
         return std::nullopt;
+    }
     auto answer = texts.front();
     texts.pop_front();
     return answer;
@@ -139,13 +145,15 @@ void ScriptedHost::closeBodyPanel() {
 
 void ScriptedHost::removeObject(document::ObjectClass kind, std::size_t index) {
     note(std::string("remove ") + nameOf(kind) + " " + std::to_string(index));
-    if (onRemove)
+    if (onRemove) {
         onRemove(kind, index);
+    }
 }
 
 void ScriptedHost::open() {
-    if (whileOpen)
+    if (whileOpen) {
         whileOpen();
+    }
 }
 
 Desk::Desk() {
@@ -166,8 +174,9 @@ void Desk::takeTool(std::int16_t index) {
 std::vector<std::string> Desk::callsOf(const std::string& word) const {
     std::vector<std::string> found;
     for (const auto& call : host.calls) {
-        if (call.rfind(word, 0) == 0)
+        if (call.rfind(word, 0) == 0) {
             found.push_back(call);
+        }
     }
     return found;
 }

@@ -74,8 +74,9 @@ TEST_P(BodyRectangles, EveryPixelOfThePictureIsBodyOrHand) {
 TEST_P(BodyRectangles, HoldForAllFifteenDegreesUpToTheStep) {
     const RectangleRow& row = GetParam();
     const BodyRectangle wanted{row.dxFrom, row.dxTo, row.dyFrom, row.dyTo};
-    for (int back = 0; back < 15; ++back)
+    for (int back = 0; back < 15; ++back) {
         EXPECT_EQ(bodyRectangle(static_cast<std::int16_t>(row.quadrant + row.step - back)), wanted) << back;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(, BodyRectangles, ::testing::ValuesIn(kRows), [](const auto& row) {
@@ -83,8 +84,9 @@ INSTANTIATE_TEST_SUITE_P(, BodyRectangles, ::testing::ValuesIn(kRows), [](const 
 });
 
 TEST(BodyRectangle, AngleOutsideOneToFullTurnHasTheRectangleOfNinety) {
-    for (const int angle : {0, -1, -15, -90, 361, 375, 405, 720, 32767, -32768})
+    for (const int angle : {0, -1, -15, -90, 361, 375, 405, 720, 32767, -32768}) {
         EXPECT_EQ(bodyRectangle(static_cast<std::int16_t>(angle)), (BodyRectangle{17, 32, 20, 35})) << angle;
+    }
 }
 
 TEST(HitBodyHand, PositionIsRoundedHalfToEven) {
@@ -144,21 +146,24 @@ TEST(HandAngle, HalfATurnCountsAsThreePointOneFour) {
 /// The same angle by another road: the full-turn arctangent, with each quarter's share stretched by pi
 /// / 3.14.
 int independentAngle(int dx, int dy) {
-    if (dx == 0)
+    if (dx == 0) {
         return dy > 0 ? 270 : 90;
+    }
     const double turn = std::atan2(-dy, dx) * 180.0 / std::numbers::pi;
     const double full = turn < 0.0 || (dy == 0 && dx > 0) ? turn + 360.0 : turn;
     const double fromAxis = dx > 0 ? (full > 180.0 ? 360.0 - full : full) : std::abs(full - 180.0);
     const int share = static_cast<int>(std::lrint(fromAxis * std::numbers::pi / 3.14));
-    if (dx > 0)
+    if (dx > 0) {
         return full > 180.0 ? 360 - share : share;
+    }
     return full > 180.0 ? 180 + share : 180 - share;
 }
 
 TEST(HandAngle, AgreesWithAnIndependentCalculationAllAround) {
     for (int dx = -40; dx <= 40; ++dx) {
-        for (int dy = -40; dy <= 40; ++dy)
+        for (int dy = -40; dy <= 40; ++dy) {
             ASSERT_EQ(angleTowards(dx, dy), independentAngle(dx, dy)) << dx << ' ' << dy;
+        }
     }
 }
 

@@ -30,8 +30,9 @@ TEST(Escape, DropsALineOfManyPointsAndKeepsTheOthers) {
     desk.records.lines = {twoPointLine(), twoPointLine()};
     desk.host.isCurveChecked = true;
     desk.takeTool(2);
-    for (int i = 0; i < 5; ++i)
+    for (int i = 0; i < 5; ++i) {
         desk.press(50.0F + static_cast<float>(i), 60);
+    }
     desk.host.calls.clear();
     Form_KeyDown(desk.editor, kEscape, 0);
     EXPECT_THAT(desk.records.lines, ElementsAre(twoPointLine(), twoPointLine()));
@@ -69,8 +70,9 @@ TEST(Escape, OtherKeysDoNothing) {
     desk.press(50, 50);
     const EditorState before = desk.state;
     for (int key = 0; key < 256; ++key) {
-        if (key == kEscape)
+        if (key == kEscape) {
             continue;
+        }
         Form_KeyDown(desk.editor, key, 0);
         pic_KeyDown(desk.editor, key, 0);
     }

@@ -63,6 +63,18 @@ TEST(RecordPathPoint, PathTakesNineHundredAndTwoPoints) {
     EXPECT_EQ(paths[0].pts.size(), 902U);
 }
 
+TEST(RecordPathPoint, GrowsInLinearTimeByRareMoves) {
+    auto paths = noPaths();
+    std::size_t moves = 0;
+    const PointF* place = nullptr;
+    for (int i = 0; i < 902; ++i) {
+        recordPathPoint(paths, 1, {1, 2});
+        moves += paths[0].pts.data() != place ? 1U : 0U;
+        place = paths[0].pts.data();
+    }
+    EXPECT_LT(moves, 20U);
+}
+
 TEST(RecordPathPoint, FullPathOfOneOwnerLeavesTheOthersFree) {
     std::vector<PathRec> paths{{1, points(902)}};
     EXPECT_EQ(recordPathPoint(paths, 2, {9, 9}), PathPoint::Recorded);
@@ -145,8 +157,9 @@ TEST(CurvedDrag, MessageComesAtEveryFurtherMove) {
     Desk desk;
     desk.host.isCurveChecked = true;
     desk.press(110, 105);
-    for (int i = 0; i < 905; ++i)
+    for (int i = 0; i < 905; ++i) {
         desk.drag(static_cast<float>(50 + i % 200), 60);
+    }
     EXPECT_EQ(desk.records.offPaths[0].pts.size(), 902U);
     EXPECT_EQ(desk.countOf("message"), 3U);
     EXPECT_EQ(desk.countOf("redraw"), 902U);

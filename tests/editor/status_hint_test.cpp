@@ -44,8 +44,9 @@ TEST(StatusHint, LineToolsFollowTheCurveBox) {
 
 TEST(StatusHint, OtherToolsHaveTheirOwnText) {
     Desk desk;
-    for (std::int16_t i = 5; i <= 10; ++i)
+    for (std::int16_t i = 5; i <= 10; ++i) {
         EXPECT_EQ(hintOf(desk, i), "status [" + std::to_string(i + 20) + "]");
+    }
 }
 
 TEST(StatusHint, ToolsHintComesBeforeThePicked) {

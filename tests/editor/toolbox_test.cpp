@@ -335,8 +335,9 @@ TEST(Toolbox, NoToolTouchesTheTimerOrTheBoard) {
     Desk desk;
     desk.host.texts = {someText()};
     desk.host.colors = {1, 2};
-    for (std::int16_t i = 0; i < tool::kCount; ++i)
+    for (std::int16_t i = 0; i < tool::kCount; ++i) {
         desk.click(i);
+    }
     EXPECT_THAT(desk.callsOf("timer"), IsEmpty());
     EXPECT_THAT(desk.callsOf("redraw"), IsEmpty());
 }
