@@ -29,7 +29,6 @@ frmTitle::frmTitle(document::PlayFile& play, document::Session& session, QWidget
     m_session.fontCharset = font.charset;
     showFont(font.name);
     fillFromPlay();
-    resize(minimumSizeHint());
 }
 
 void frmTitle::buildControls() {
