@@ -18,7 +18,7 @@ using namespace zeltrona::animation;
 namespace {
 
 constexpr char kPlayBegins = '\x1E';
-constexpr std::size_t kMostActs = 60;
+constexpr std::size_t kMostActs = 24;
 constexpr int kManyTicks = 150;
 
 class Clock : public AnimTimer {
