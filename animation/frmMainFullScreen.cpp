@@ -14,6 +14,7 @@ namespace {
 
 const QColor kGround(0x10, 0x12, 0x14);
 const QColor kBarGround(0x1D, 0x20, 0x24);
+const QColor kBarField(0x3A, 0x3F, 0x45);
 const QColor kBarText(0xE6, 0xE8, 0xEA);
 constexpr int kHintLeft = 10;
 constexpr int kHintSize = 12;
@@ -44,7 +45,7 @@ QPalette darkPalette(const QPalette& base) {
     for (const auto role : {QPalette::Window, QPalette::Button}) {
         dark.setColor(role, kBarGround);
     }
-    dark.setColor(QPalette::Base, kGround);
+    dark.setColor(QPalette::Base, kBarField);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         dark.setColor(role, kBarText);
     }
@@ -146,6 +147,7 @@ void frmMainFullScreen::paintExitHint() {
 void frmMainFullScreen::placeAnimTools() {
     m_places = ::zeltrona::animation::placeAnimTools(measures(), m_hintTop,
                                                      [](int points) { return extentOf(nameText(), points); });
+    pToolAnim->adjustSize();
     pToolAnim->move(m_places.left, m_places.toolTop);
     update();
 }

@@ -11,7 +11,7 @@ namespace zeltrona::animation {
 
 namespace {
 
-constexpr int kButtonWidth = 26;
+constexpr int kButtonWidth = 24;
 constexpr int kArrowWidth = 20;
 constexpr int kGroupGap = 8;
 
@@ -27,25 +27,30 @@ TransportBar::TransportBar(QWidget* parent) : QFrame(parent) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(4, 4, 8, 4);
     row->setSpacing(0);
-    row->setSizeConstraint(QLayout::SetFixedSize);
     cmdAnimFirst =
         addButton("cmdAnimFirst", "anim_first", QStringLiteral("To the first sequence"), kButtonWidth);
     cmdAnimPrev = addButton("cmdAnimPrev", "anim_prev", QStringLiteral("One sequence back"), kButtonWidth);
     cmdAnimPlay =
-        addButton("cmdAnimPlay", "anim_play", QStringLiteral("Play from the beginning"), kButtonWidth + 6);
+        addButton("cmdAnimPlay", "anim_play", QStringLiteral("Play from the beginning"), kButtonWidth + 4);
     cmdAnimPause = addButton("cmdAnimPause", "anim_pause", QStringLiteral("Pause, or go on"), kButtonWidth);
     cmdAnimStop = addButton("cmdAnimStop", "anim_stop", QStringLiteral("Stop and show the first sequence"),
                             kButtonWidth);
     cmdAnimNext = addButton("cmdAnimNext", "anim_next", QStringLiteral("One sequence forward"), kButtonWidth);
     cmdAnimLast = addButton("cmdAnimLast", "anim_last", QStringLiteral("To the last move"), kButtonWidth);
-    row->addSpacing(kGroupGap);
+    addGap();
     cmdAnimDown = addButton("cmdAnimDown", "speed_down", QStringLiteral("Slower"), kArrowWidth);
     makeSpeedBox();
     cmdAnimUp = addButton("cmdAnimUp", "speed_up", QStringLiteral("Faster"), kArrowWidth);
-    row->addSpacing(kGroupGap);
+    addGap();
     makeLoopBox();
-    row->addSpacing(kGroupGap);
+    addGap();
     makeCounter();
+}
+
+// A bar wider than it needs to be keeps its groups together and widens the room between them.
+void TransportBar::addGap() {
+    rowOf(this)->addSpacing(kGroupGap);
+    rowOf(this)->addStretch(1);
 }
 
 TransportButton* TransportBar::addButton(const char* name, const char* sign, const QString& tip, int width) {

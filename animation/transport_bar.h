@@ -44,6 +44,7 @@ protected:
 
 private:
     TransportButton* addButton(const char* name, const char* sign, const QString& tip, int width);
+    void addGap();
     void makeSpeedBox();
     void makeLoopBox();
     void makeCounter();

@@ -27,6 +27,7 @@ frmNotes::frmNotes(document::PlayFile& play, document::Session& session, QWidget
     showFont(font.name);
     m_note->setPlainText(
         QString::fromStdString(document::toUtf8(document::readNote(play, session.currFrame), font.charset)));
+    resize(minimumSizeHint());
 }
 
 void frmNotes::buildControls() {

@@ -29,6 +29,7 @@ frmTitle::frmTitle(document::PlayFile& play, document::Session& session, QWidget
     m_session.fontCharset = font.charset;
     showFont(font.name);
     fillFromPlay();
+    resize(minimumSizeHint());
 }
 
 void frmTitle::buildControls() {

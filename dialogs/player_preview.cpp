@@ -31,13 +31,6 @@ QImage filled(Color color, const char* region) {
 
 } // namespace
 
-QImage emptyPreview(Color background) {
-    BoardSurface surface(kPreviewSide, kPreviewSide);
-    surface.setBackColor(background);
-    surface.cls();
-    return surface.image();
-}
-
 QImage circlePreview(const QString& label, Color suit, Color font, Color background) {
     BoardSurface surface(kPreviewSide, kPreviewSide);
     surface.setBackColor(background);

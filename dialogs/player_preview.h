@@ -19,7 +19,4 @@ QImage circlePreview(const QString& label, Color suit, Color font, Color backgro
 /// `suit`.
 QImage composeBody(Color skin, Color suit);
 
-/// Nothing but the background.
-QImage emptyPreview(Color background);
-
 } // namespace zeltrona::dialogs

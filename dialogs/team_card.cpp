@@ -158,7 +158,7 @@ bool TeamCard::isChecked(int slot) const {
 }
 
 void TeamCard::drawPreview(int slot) {
-    const document::Color background = platform::valueOfColor(palette().color(QPalette::Button));
+    const document::Color background = platform::valueOfColor(palette().color(QPalette::Window));
     Row& r = row(slot);
     const QImage image =
         m_bodies ? composeBody(r.skin, m_suit) : circlePreview(r.label->text(), m_suit, m_font, background);
@@ -166,8 +166,7 @@ void TeamCard::drawPreview(int slot) {
 }
 
 void TeamCard::clearPreview(int slot) {
-    row(slot).picture->setPixmap(
-        QPixmap::fromImage(emptyPreview(platform::valueOfColor(palette().color(QPalette::Button)))));
+    row(slot).picture->clear();
 }
 
 void TeamCard::redrawChecked() {

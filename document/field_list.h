@@ -19,8 +19,8 @@ enum class FieldTest {
 
 /// Splits a list value at its commas.
 /// Shape:  a field counts only if a comma ends it: what stands behind the last comma is dropped.
-/// Reason: a value that the read cut short thus loses its last, partial field instead of giving a wrong
-/// number.
+/// Reason: a value that the read cut short thus loses its last, partial field instead of giving a
+///         wrong number.
 std::vector<ListField> splitFields(std::string_view value, FieldTest test);
 
 } // namespace zeltrona::document

@@ -18,9 +18,9 @@ std::int16_t countFrames(const PlayFile& play);
 /// Whether the frame's section holds the key `frame` with another number than -1, whatever else it holds.
 bool frameExists(const PlayFile& play, std::int16_t n);
 
-/// Fills the Config variables of the session, and the players of both sides from Frame1. What the file lacks
-/// gets its default; a side without a player stays as it was. Numbers beyond 16 or 32 bits wrap. The font is
-/// not read.
+/// Fills the Config variables of the session, and the players of both sides from Frame1. What the
+/// file lacks gets its default; a side without a player stays as it was. Numbers beyond 16 or 32
+/// bits wrap. The font is not read.
 void loadConfig(const PlayFile& play, Session& session, FrameRecords& frame);
 
 /// What a procedure that traps errors tells the user of one, in a box of its own.
@@ -37,12 +37,13 @@ std::optional<TrappedError> readFontConfig(const PlayFile& play, std::string& fo
 /// Writes the key `font` as "name,charset,".
 WriteResult writeFontConfig(PlayFile& play, std::string_view fontName, std::int16_t charset);
 
-/// Stores the shown frame under session.currFrame in one replacement; `frame` is ignored, as callers know.
-/// `partial` leaves out lines, shadows and texts.
-/// Shape:  only writes: keys of objects that are gone stay, and come back at the next load. The bytes are
-/// those of
-///         single writes in the order note, frame, players, balls, paths, triangles, lines, shadows, texts.
-/// Units:  places of players are rounded to whole numbers, half to even; all else keeps its fractions.
+/// Stores the shown frame under session.currFrame in one replacement; `frame` is ignored, as callers
+/// know. `partial` leaves out lines, shadows and texts.
+/// Shape:  only writes: keys of objects that are gone stay, and come back at the next load. The
+///         bytes are those of single writes in the order note, frame, players, balls, paths,
+///         triangles, lines, shadows, texts.
+/// Units:  places of players are rounded to whole numbers, half to even; all else keeps its
+///         fractions.
 WriteResult saveFrame(PlayFile& play, const Session& session, const FrameRecords& records, std::int16_t frame,
                       bool partial);
 

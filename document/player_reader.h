@@ -10,12 +10,11 @@
 namespace zeltrona::document {
 
 /// Reads the players of a side ("off" or "def") of a frame, each put together in `scratch` first.
-/// Shape:  dense: a slot whose position or label is missing or malformed leaves no gap. Slots are 0 to 11,
-/// and label
-///         and skin come from the slot, not from the place in the array.
+/// Shape:  dense: a slot whose position or label is missing or malformed leaves no gap. Slots are 0
+///         to 11, and label and skin come from the slot, not from the place in the array.
 /// Left:   `dest` stays as it was when no player is found.
-/// Reason: the position is read with 8 bytes only, so that 1000,1000 comes back as 1000,100; plays in use
-/// rely on it.
+/// Reason: the position is read with 8 bytes only, so that 1000,1000 comes back as 1000,100; plays
+///         in use rely on it.
 void readSidePlayers(const PlayFile& play, std::int16_t frame, std::string_view side, PlayerRec& scratch,
                      std::vector<PlayerRec>& dest);
 

@@ -9,10 +9,6 @@ namespace {
 
 constexpr std::int64_t kSecond = 1'000'000'000;
 
-std::int64_t nanoseconds(const timespec& time) {
-    return static_cast<std::int64_t>(time.tv_sec) * kSecond + time.tv_nsec;
-}
-
 } // namespace
 
 Descriptor::~Descriptor() {
@@ -25,16 +21,20 @@ std::string reasonOf(int error) {
     return std::generic_category().message(error);
 }
 
+std::int64_t nanosecondsOf(const timespec& time) {
+    return static_cast<std::int64_t>(time.tv_sec) * kSecond + time.tv_nsec;
+}
+
 FileStamp stampOf(const struct stat& status) {
     return {static_cast<std::uint64_t>(status.st_dev), static_cast<std::uint64_t>(status.st_ino),
-            static_cast<std::int64_t>(status.st_size), nanoseconds(status.st_mtim),
-            nanoseconds(status.st_ctim)};
+            static_cast<std::int64_t>(status.st_size), nanosecondsOf(status.st_mtim),
+            nanosecondsOf(status.st_ctim)};
 }
 
 bool isSettled(const FileStamp& stamp) {
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME_COARSE, &now);
-    const std::int64_t age = nanoseconds(now) - stamp.modifiedNs;
+    const std::int64_t age = nanosecondsOf(now) - stamp.modifiedNs;
     // A time far ahead comes from another machine's clock and says nothing about this moment.
     return age > 0 || age < -kSecond;
 }

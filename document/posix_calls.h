@@ -3,6 +3,8 @@
 #include "document/whole_file.h"
 
 #include <cerrno>
+#include <cstdint>
+#include <ctime>
 #include <string>
 #include <sys/stat.h>
 #include <utility>
@@ -39,6 +41,7 @@ private:
 /// The operating system's words for an error number.
 std::string reasonOf(int error);
 
+std::int64_t nanosecondsOf(const timespec& time);
 FileStamp stampOf(const struct stat& status);
 /// Whether a change from now on is sure to carry another time than the one stamped.
 bool isSettled(const FileStamp& stamp);

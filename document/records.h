@@ -19,8 +19,8 @@ struct PointF {
 // A record made plainly is all zero: that is what an array grows by. The empty state of an array, one element
 // with values that its has-data test knows again, comes from the reset procedures of frame_records.h.
 
-/// One player. `x`, `y`: left and top of the picture on the board; `txt`: label, bytes in the play's code page;
-/// `body`: pose 0 to 3; `angle`: facing in degrees, counter-clockwise.
+/// One player. `x`, `y`: left and top of the picture on the board; `txt`: label, bytes in the play's code
+/// page; `body`: pose 0 to 3; `angle`: facing in degrees, counter-clockwise.
 struct PlayerRec {
     float x = 0.0F;
     float y = 0.0F;
@@ -38,8 +38,8 @@ struct PathRec {
     friend bool operator==(const PathRec&, const PathRec&) = default;
 };
 
-/// One movement line. `style`: number of the tool that drew it; `pts`: may be empty when the file names a line
-/// without points.
+/// One movement line. `style`: number of the tool that drew it; `pts`: may be empty when the file names a
+/// line without points.
 struct LineRec {
     std::uint8_t style = 0;
     Color color = 0;
@@ -73,7 +73,8 @@ struct BallRec {
     friend bool operator==(const BallRec&, const BallRec&) = default;
 };
 
-/// A text on the board; `x`, `y`: lower left corner of its block; `text` and `fontName`: bytes in the play's code page.
+/// A text on the board; `x`, `y`: lower left corner of its block; `text`, `fontName`: bytes in the play's
+/// code page.
 struct TxtPicRec {
     std::string text;
     float x = 0.0F;

@@ -28,21 +28,23 @@ StepOutcome stepDown(const PlayFile& play, Session& session, FrameRecords& recor
 /// `count` is that of countFrames.
 StepOutcome stepUp(const PlayFile& play, Session& session, FrameRecords& records, std::int16_t count);
 
-/// Stores the shown frame, then makes a new one at the end from its state, as one replacement of the file:
-/// players and balls at the ends of their paths, the triangles; no lines, shadows, texts and paths. Errors:
-/// when the file cannot be written, session and records stand as they were too. Range:  behind frame 32767
-/// there is no number left: the shown frame is stored, and stays.
+/// Stores the shown frame, then makes a new one at the end from its state, as one replacement of the
+/// file: players and balls at the ends of their paths, the triangles; no lines, shadows, texts and
+/// paths.
+/// Errors: when the file cannot be written, session and records stand as they were too.
+/// Range:  behind frame 32767 there is no number left: the shown frame is stored, and stays.
 WriteResult makeNewFrame(PlayFile& play, Session& session, FrameRecords& records);
 
-/// Whether the shown frame may be deleted. A play of one frame loses none, without a word; then comes the
-/// first frame.
+/// Whether the shown frame may be deleted. A play of one frame loses none, without a word; then
+/// comes the first frame.
 enum class Deletion { Allowed, OnlyFrame, FirstFrame };
 Deletion checkDeletion(const PlayFile& play, const Session& session);
 
-/// Deletes frame session.currFrame with its note, closes the gap in the numbering by the textual rewrite
-/// through `zqTmp.zpf` in `programFolder` (beside the play where that is not writable), all as one
-/// replacement, and loads the frame to show: the one that moved into the place, or the last one. Does nothing
-/// where it is not allowed. Errors: on a failure of any step play, session and records stand as they were.
+/// Deletes frame session.currFrame with its note, closes the gap in the numbering by the textual
+/// rewrite through `zqTmp.zpf` in `programFolder` (beside the play where that is not writable), all
+/// as one replacement, and loads the frame to show: the one that moved into the place, or the last
+/// one. Does nothing where it is not allowed.
+/// Errors: on a failure of any step play, session and records stand as they were.
 WriteResult deleteShownFrame(PlayFile& play, Session& session, FrameRecords& records,
                              const std::string& programFolder);
 

@@ -1,10 +1,12 @@
+#include "document/posix_calls.h"
 #include "document/sequence_rewrite.h"
+#include "document/whole_file.h"
 
-#include <cerrno>
-#include <cstdio>
+#include <fcntl.h>
 #include <filesystem>
 #include <optional>
 #include <system_error>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -14,87 +16,76 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string lastError() {
-    const int error = errno != 0 ? errno : EIO;
-    return std::generic_category().message(error);
-}
-
 /// The temporary file, gone when this is. One that an earlier run left behind makes way; nothing is ever
-/// written through a link or into a pipe of that name.
+/// written through a link or into a pipe of that name, and nobody else may read what it holds.
 class TemporaryFile {
 public:
-    explicit TemporaryFile(const fs::path& path) : m_path(path) {
-        std::error_code ignored;
-        if (!fs::is_directory(path, ignored)) {
-            fs::remove(path, ignored);
-        }
-        m_file = std::fopen(path.c_str(), "w+bx");
+    explicit TemporaryFile(const std::string& path) : m_path(path) {
+        ::unlink(path.c_str());
+        m_file = posix::Descriptor(posix::retry([&] {
+            return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+        }));
     }
     ~TemporaryFile() {
-        if (m_file != nullptr) {
-            std::fclose(m_file);
-            std::error_code ignored;
-            fs::remove(m_path, ignored);
+        if (m_file.isOpen()) {
+            ::unlink(m_path.c_str());
         }
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-    /// What the file holds after `bytes` have gone through it; nothing on failure.
-    std::optional<std::string> carry(const std::string& bytes) {
-        if (m_file == nullptr || std::fwrite(bytes.data(), 1, bytes.size(), m_file) != bytes.size()
-            || std::fflush(m_file) != 0) {
-            return std::nullopt;
+    /// Fills `bytes` with what the file holds after they have gone through it; the reason on failure.
+    WriteResult carry(std::string& bytes) {
+        if (!m_file.isOpen() || !writeAll(bytes)) {
+            return {posix::reasonOf(errno)};
         }
-        std::rewind(m_file);
-        std::string copied(bytes.size(), '\0');
-        if (std::fread(copied.data(), 1, copied.size(), m_file) != copied.size()) {
-            return std::nullopt;
-        }
-        return copied;
+        FileLook copied = readWholeFile(m_path);
+        bytes = std::move(copied.bytes);
+        return {std::move(copied.reason)};
     }
 
 private:
-    fs::path m_path;
-    std::FILE* m_file = nullptr;
+    bool writeAll(std::string_view rest) {
+        while (!rest.empty()) {
+            const auto written =
+                posix::retry([&] { return ::write(m_file.number(), rest.data(), rest.size()); });
+            if (written < 0) {
+                return false;
+            }
+            rest.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return true;
+    }
+
+    std::string m_path;
+    posix::Descriptor m_file;
 };
 
 /// Where the temporary file may stand, the first choice first. A play of that very name is no place for it.
-std::vector<fs::path> temporaryPaths(const PlayFile& play, const std::string& programFolder) {
-    const fs::path playPath(play.path());
-    std::vector<fs::path> paths;
-    const auto addFolder = [&](const fs::path& folder) {
-        const fs::path path = folder / kTemporaryName;
+std::vector<std::string> temporaryPaths(const PlayFile& play, const std::string& programFolder) {
+    std::vector<std::string> paths;
+    for (const std::string& folder : {programFolder, posix::folderOf(play.path())}) {
+        const std::string path = folder + "/" + kTemporaryName;
         std::error_code none;
-        if (!fs::equivalent(path, playPath, none)) {
+        if (!folder.empty() && !fs::equivalent(path, play.path(), none)) {
             paths.push_back(path);
         }
-    };
-    if (!programFolder.empty()) {
-        addFolder(programFolder);
     }
-    addFolder(playPath.parent_path());
     return paths;
 }
 
 } // namespace
 
-WriteResult replaceThroughTemporary(PlayFile& play, const std::string& bytes,
-                                    const std::string& programFolder) {
-    const std::vector<fs::path> paths = temporaryPaths(play, programFolder);
-    if (paths.empty()) {
-        return play.replaceAll(bytes);
-    }
+WriteResult replaceThroughTemporary(PlayFile& play, std::string bytes, const std::string& programFolder) {
     WriteResult failed;
-    for (const fs::path& path : paths) {
-        errno = 0;
-        TemporaryFile temporary(path);
-        if (std::optional<std::string> copied = temporary.carry(bytes)) {
-            return play.replaceAll(std::move(*copied));
+    for (const std::string& path : temporaryPaths(play, programFolder)) {
+        std::string copied = bytes;
+        failed = TemporaryFile(path).carry(copied);
+        if (failed.ok()) {
+            return play.replaceAll(std::move(copied));
         }
-        failed.reason = lastError();
     }
-    return failed;
+    return failed.ok() ? play.replaceAll(std::move(bytes)) : failed;
 }
 
 } // namespace zeltrona::document

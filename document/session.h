@@ -28,18 +28,18 @@ struct Session {
     Color colorOffFont = 0;
     Color colorDefFont = 0;
     Color colorLine = 0;
-    std::int16_t lineWidth = 1;
-    std::int16_t court = 0; ///< 1 to 9 have a picture
+    std::int16_t lineWidth = 1; ///< as the file has it, never 0; painters take what is below 1 as 1
+    std::int16_t court = 0;     ///< 1 to 9 have a picture
     Color courtColor = 0;
     std::int16_t courtTexture = 0;
     std::int16_t useTexture = 0;
-    std::int16_t fontCharset = 238; ///< character set of the configured font; picks the code page of all texts
+    std::int16_t fontCharset = 238; ///< character set of the configured font; picks the texts' code page
 
     // Playback.
     bool fullScreenOpen = false;
     bool animLoop = false;
 
-    /// A player is put together here before it is copied into an array; a reader that finds no player leaves it.
+    /// A player is put together here before it is copied into an array. It has no other meaning.
     PlayerRec scratchPlayer;
 };
 

@@ -30,10 +30,10 @@ struct TeamSetup {
     std::array<PlayerSetup, kSlotCount> def;
 };
 
-/// Writes the keys of the team window as one replacement: colours, pen and font, then the chosen players of
-/// each side. Shape:  slots are packed: the chosen players get the slots 0, 1, 2 ..., and a place in the
-/// window is not kept.
-///         All 24 slots are deleted first. A side without a player writes no keys.
+/// Writes the keys of the team window as one replacement: colours, pen and font, then the chosen
+/// players of each side.
+/// Shape:  slots are packed: the chosen players get the slots 0, 1, 2 ..., and a place in the window
+///         is not kept. All 24 slots are deleted first. A side without a player writes no keys.
 /// Units:  the places are a first form, which the layout of the new play replaces.
 WriteResult writeTeamConfig(PlayFile& play, const TeamSetup& setup);
 

@@ -15,8 +15,8 @@ namespace zeltrona::document {
 /// would come back as a line break, so the windows refuse it while typing.
 inline constexpr char kBreakMark = '\xAE';
 
-/// Each CR LF as one break mark. A CR or LF alone, which would end the key's line in the file, becomes a
-/// blank.
+/// Each CR LF as one break mark. A CR or LF alone, which would end the key's line in the file,
+/// becomes a blank.
 std::string withBreakMarks(std::string_view text);
 /// Each break mark as CR LF.
 std::string withLineBreaks(std::string_view stored);

@@ -1,6 +1,7 @@
 #include "output/frmDrawPreview.h"
 
 #include "platform/message_box.h"
+#include "platform/themed_icon.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -37,7 +38,7 @@ template<class Control> Control* named(Control* control, const char* name, const
 
 QToolButton* barButton(const char* name, const QString& icon, const QString& plainWords) {
     auto* button = named(new QToolButton, name, plainWords);
-    button->setIcon(QIcon(QStringLiteral(":/art/%1.svg").arg(icon)));
+    button->setIcon(platform::themedIcon(icon, button->palette()));
     button->setToolTip(plainWords);
     button->setFocusPolicy(Qt::StrongFocus);
     return button;

@@ -8,6 +8,7 @@
 #include "platform/printer.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QPainter>
 #include <QWidget>
 
@@ -90,6 +91,7 @@ bool printPages(FrameWalk& walk, QPrinter& printer, PrintMode mode, const PrintR
 void printPlay(FrameWalk& walk, QWidget* parent, PrintMode mode, const QImage& logo) {
     const int pages = PageCtn(document::countFrames(walk.play), mode, walk.session.court);
     QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(QFileInfo(QString::fromStdString(walk.play.path())).completeBaseName());
     platform::PrintChoice choice;
     do {
         choice = platform::showPrinter(parent, printer, {QStringLiteral("Zeltrona Print"), pages});

@@ -1,6 +1,7 @@
 #include "platform/message_box.h"
 
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 namespace zeltrona::platform {
@@ -26,12 +27,14 @@ QMessageBox::Icon toolkitIcon(Icon icon) {
 Answer showMessage(QWidget* parent, const QString& text, Icon icon, Buttons buttons, const QString& title) {
     const auto choice = buttons == Buttons::YesNo ? QMessageBox::Yes | QMessageBox::No
                                                   : QMessageBox::StandardButtons(QMessageBox::Ok);
-    QMessageBox box(toolkitIcon(icon), title, text, choice, parent);
-    box.setObjectName(QStringLiteral("messageBox"));
-    box.setAccessibleName(title);
+    // On the heap: when the window goes while the question is open, it takes the box with it.
+    const QPointer<QMessageBox> box = new QMessageBox(toolkitIcon(icon), title, text, choice, parent);
+    box->setObjectName(QStringLiteral("messageBox"));
+    box->setAccessibleName(title);
     // A text of ours is never markup, and a file name in it may look like some.
-    box.setTextFormat(Qt::PlainText);
-    const int pressed = box.exec();
+    box->setTextFormat(Qt::PlainText);
+    const int pressed = box->exec();
+    delete box;
     if (buttons == Buttons::Ok) {
         return Answer::Ok;
     }

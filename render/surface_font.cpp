@@ -6,8 +6,9 @@ namespace zeltrona::render {
 
 int pixelSizeOf(const SurfaceFont& font) {
     constexpr int kDefaultPoints = 8;
+    constexpr int kMostPixels = 16384; // font engines count pixels in 16 bits with a sign
     const int points = font.size > 0 ? font.size : kDefaultPoints;
-    return std::max((points * 96 + 36) / 72, 1);
+    return std::clamp((points * 96 + 36) / 72, 1, kMostPixels);
 }
 
 QFont toolkitFontOf(const SurfaceFont& font) {

@@ -21,7 +21,8 @@ struct SurfaceFont {
     friend bool operator==(const SurfaceFont&, const SurfaceFont&) = default;
 };
 
-/// Height of the font in pixels: points at 96 to the inch. A size of 0 or below counts as 8 points.
+/// Height of the font in pixels: points at 96 to the inch. A size of 0 or below counts as 8 points, one past
+/// what font engines can do as the largest.
 int pixelSizeOf(const SurfaceFont& font);
 
 /// The toolkit's font for drawing on a surface: whole pixels, no smoothing, no kerning. A name that the

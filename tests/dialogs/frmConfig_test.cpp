@@ -219,19 +219,19 @@ TEST_F(TeamWindow, TeamColourRepaintsTheChosenPlayersOnly) {
     answers.expectColor(QColor(0, 200, 0));
     click(*form, "Command1");
     EXPECT_EQ(picture("Picture1", 0).pixel(13, 5), qRgb(0, 200, 0));
-    EXPECT_NE(picture("Picture1", 5).pixel(13, 5), qRgb(0, 200, 0));
+    EXPECT_TRUE(picture("Picture1", 5).isNull());
 }
 
 TEST_F(TeamWindow, UncheckedPlayerLosesHisPreview) {
     open();
     EXPECT_EQ(picture("Picture1", 0).pixel(13, 5), qRgb(0, 0, 255));
     toggle("Check1", 0);
-    EXPECT_NE(picture("Picture1", 0).pixel(13, 5), qRgb(0, 0, 255));
+    EXPECT_TRUE(picture("Picture1", 0).isNull());
 }
 
 TEST_F(TeamWindow, ChangedLabelPaintsThePreviewOfAPlayerLeftOutToo) {
     open();
-    EXPECT_NE(picture("Picture1", 7).pixel(13, 5), qRgb(0, 0, 255));
+    EXPECT_TRUE(picture("Picture1", 7).isNull());
     typeInto(*form, "Text1_7", QStringLiteral("9"));
     EXPECT_EQ(picture("Picture1", 7).pixel(13, 5), qRgb(0, 0, 255));
 }

@@ -55,9 +55,5 @@ TEST(PlayerPreview, BodiesOfOneColourDifferNowhereElse) {
     }
 }
 
-TEST(PlayerPreview, EmptyPreviewIsTheBackground) {
-    EXPECT_EQ(emptyPreview(kGrey).pixel(13, 13), qRgb(192, 192, 192));
-}
-
 } // namespace
 } // namespace zeltrona::dialogs

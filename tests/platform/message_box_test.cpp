@@ -3,6 +3,7 @@
 
 #include <QMessageBox>
 #include <QTest>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -37,6 +38,13 @@ TEST(MessageBox, EscapeOnAQuestionMeansNo) {
     DialogAnswerer answers;
     answers.expect([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); });
     EXPECT_EQ(showMessage(nullptr, QStringLiteral("Exit?"), Icon::None, Buttons::YesNo), Answer::No);
+}
+
+TEST(MessageBox, GoesWithItsWindowAndMeansNo) {
+    auto* window = new QWidget;
+    DialogAnswerer answers;
+    answers.expect([window](QWidget&) { delete window; });
+    EXPECT_EQ(showMessage(window, QStringLiteral("Exit?"), Icon::Question, Buttons::YesNo), Answer::No);
 }
 
 TEST(MessageBox, TrappedErrorTellsNumberAndDescription) {

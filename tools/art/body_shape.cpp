@@ -59,9 +59,9 @@ std::vector<Limb> bothArms(const std::vector<Spot>& right) {
 std::vector<Limb> armsOf(Pose pose) {
     switch (pose) {
     case Pose::ArmsForward:
-        return bothArms({{8.0, 3.0}, {10.5, 10.0}, {4.4, 20.0}});
+        return bothArms({{8.0, 3.0}, {10.5, 10.0}, {4.2, 19.3}});
     case Pose::ArmsWide:
-        return bothArms({{7.5, 1.5}, {14.0, 2.0}, {18.8, 8.2}});
+        return bothArms({{7.5, 1.5}, {14.0, 2.0}, {18.2, 8.0}});
     case Pose::Dribbling:
         return {{{{8.0, 2.0}, {12.0, 8.5}, {7.5, 18.5}}, kArm, kHand},
                 {{{-8.0, 1.5}, {-14.0, 4.0}, {-10.5, 12.0}}, kArm, kHand}};

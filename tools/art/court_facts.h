@@ -18,10 +18,10 @@ struct LaneMark {
 struct CourtFacts {
     double length = 0.0;
     double width = 0.0;
-    double basket = 0.0;            ///< middle of the ring
-    double ring = 0.0;              ///< diameter inside the ring
-    double board = 0.0;             ///< front face of the board
-    double boardWidth = 0.0;        ///<
+    double basket = 0.0; ///< middle of the ring
+    double ring = 0.0;   ///< diameter inside the ring
+    double board = 0.0;  ///< front face of the board
+    double boardWidth = 0.0;
     double laneLength = 0.0;        ///< to the outer edge of the free-throw line
     double laneWidth = 0.0;         ///< at the free-throw line
     double laneWidthAtEnd = 0.0;    ///< at the end line

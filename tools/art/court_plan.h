@@ -10,14 +10,14 @@ namespace zeltrona::art {
 /// radii keep their
 ///         fractions, since a symmetric middle keeps a circle round at any radius.
 struct CourtPlan {
-    int weight = 2;             ///< thickness of a line
-    double length = 0.0;        ///< between the inner edges of the end lines
-    double halfWidth = 0.0;     ///< from the middle to the inner edge of a side line
-    double basket = 0.0;        ///< middle of the ring
-    double ring = 0.0;          ///< radius to the middle of the ring's one pixel line
-    double board = 0.0;         ///< front face
-    double boardHalf = 0.0;     ///<
-    double laneLength = 0.0;    ///<
+    int weight = 2;         ///< thickness of a line
+    double length = 0.0;    ///< between the inner edges of the end lines
+    double halfWidth = 0.0; ///< from the middle to the inner edge of a side line
+    double basket = 0.0;    ///< middle of the ring
+    double ring = 0.0;      ///< radius to the middle of the ring's one pixel line
+    double board = 0.0;     ///< front face
+    double boardHalf = 0.0;
+    double laneLength = 0.0;
     double laneHalf = 0.0;      ///< at the free-throw line
     double laneHalfAtEnd = 0.0; ///< at the end line
     double innerLaneHalf = 0.0; ///< 0 for none, as for all that follows

@@ -25,14 +25,14 @@ bool isSeam(Spot from) {
 QRgb ballColourAt(Spot from) {
     const double rim = length(from);
     if (rim > kBallRadius - 0.8) {
-        return qRgb(74, 30, 8);
+        return qRgb(52, 20, 6);
     }
-    const double light = std::clamp(1.0 - 0.045 * (length(from - Spot{-2.6, -2.6}) - 2.0), 0.72, 1.06);
-    const double tone = isSeam(from) ? 0.62 : 1.0;
+    const double light = std::clamp(1.06 - 0.035 * length(from - Spot{-2.6, -2.6}), 0.76, 1.06);
+    const double tone = isSeam(from) ? 0.7 : 1.0;
     const auto channel = [&](double value) {
         return std::clamp(static_cast<int>(value * light * tone), 0, 255);
     };
-    return qRgb(channel(236), channel(116), channel(38));
+    return qRgb(channel(246), channel(112), channel(24));
 }
 
 } // namespace

@@ -50,8 +50,8 @@ std::vector<Shape> ballSign(const QColor& ink) {
     return {
         {circle({10.0, 10.0}, 7.0), ink, kStroke},
         {together({polyline({{3.0, 10.0}, {17.0, 10.0}}), polyline({{10.0, 3.0}, {10.0, 17.0}})}), ink, 1.2},
-        {arc({-1.4, 10.0}, 7.4, -42.0, 84.0), ink, 1.2},
-        {arc({21.4, 10.0}, 7.4, 138.0, 84.0), ink, 1.2}};
+        {arc({-2.4, 10.0}, 7.8, -36.0, 72.0), ink, 1.2},
+        {arc({22.4, 10.0}, 7.8, 144.0, 72.0), ink, 1.2}};
 }
 
 std::vector<Shape> triangleSign(const QColor& ink) {

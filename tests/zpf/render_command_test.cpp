@@ -1,0 +1,160 @@
+#include "render/board_art.h"
+#include "tests/zpf/program_run.h"
+#include "tools/zpf/play_desk.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zeltrona::zpf {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+const char* kConfig = "[Config]\r\ncolorOff=255\r\ncolorOffFont=16777215\r\ntxtOff0=4\r\nline=2\r\n"
+                      "court=1\r\ncourtColor=16777215\r\n";
+const char* kFrames = "[Frame1]\r\nframe=1\r\noff0=100,200\r\n[Frame2]\r\nframe=2\r\noff0=200,100\r\n";
+
+class RenderCommand : public testing::Test {
+protected:
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+    QString write(const QString& name, const QByteArray& bytes) const {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+    QString writePlay(const QString& name) const { return write(name, QByteArray(kConfig) + kFrames); }
+    QStringList pictures() const { return QDir(path("out")).entryList(QDir::Files, QDir::Name); }
+    ProgramRun render(const QStringList& words) const {
+        return ProgramRun(QStringList("render") + words + QStringList{"-o", path("out")});
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+TEST_F(RenderCommand, DrawsEveryFrameOfEachPlay) {
+    const ProgramRun run = render({writePlay("horns.zpf"), writePlay("flex.v2.zpf")});
+    EXPECT_EQ(run.code, ExitCode::Done) << run.err;
+    EXPECT_THAT(run.err, IsEmpty());
+    EXPECT_EQ(pictures(), QStringList({"flex.v2-1.png", "flex.v2-2.png", "horns-1.png", "horns-2.png"}));
+}
+
+TEST_F(RenderCommand, PictureIsTheBoardOfItsFrame) {
+    const QString play = writePlay("horns.zpf");
+    render({play});
+    const render::BoardArt art = render::loadBoardArt();
+    PlayDesk desk(play, art);
+    const QImage first = desk.drawFrame(1).copy();
+    EXPECT_EQ(first.size(), QSize(363, 332));
+    EXPECT_EQ(QImage(path("out/horns-1.png")).convertToFormat(QImage::Format_RGB32), first);
+    const QImage second = QImage(path("out/horns-2.png")).convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(second, desk.drawFrame(2));
+    EXPECT_NE(second, first);
+    EXPECT_EQ(first.pixel(100 + 6, 200 + 8), qRgb(255, 0, 0)) << "the disc of the player";
+}
+
+TEST_F(RenderCommand, WholeCourtHasItsSizeWithTheTextureToo) {
+    QByteArray text = QByteArray(kConfig) + kFrames;
+    text.replace("court=1", "court=3\r\ncourtTexture=1");
+    render({write("press.zpf", text)});
+    EXPECT_EQ(QImage(path("out/press-1.png")).size(), QSize(532, 295));
+}
+
+TEST_F(RenderCommand, FrameWithoutPlayersShowsThoseOfTheFrameBefore) {
+    const QByteArray text =
+        QByteArray(kConfig) + "[Frame1]\r\nframe=1\r\noff0=100,200\r\n[Frame2]\r\nframe=2\r\n";
+    render({write("still.zpf", text)});
+    EXPECT_EQ(QImage(path("out/still-1.png")), QImage(path("out/still-2.png")));
+}
+
+TEST_F(RenderCommand, WritesBitmapsOnRequest) {
+    EXPECT_EQ(render({writePlay("horns.zpf"), "--format", "bmp"}).code, ExitCode::Done);
+    EXPECT_EQ(pictures(), QStringList({"horns-1.bmp", "horns-2.bmp"}));
+    EXPECT_EQ(QImage(path("out/horns-1.bmp"), "BMP").size(), QSize(363, 332));
+}
+
+TEST_F(RenderCommand, ScaleRepeatsEachPixel) {
+    const QString play = writePlay("horns.zpf");
+    render({play, "-s", "3"});
+    const render::BoardArt art = render::loadBoardArt();
+    PlayDesk desk(play, art);
+    const QImage board = desk.drawFrame(1);
+    const QImage scaled(path("out/horns-1.png"));
+    ASSERT_EQ(scaled.size(), board.size() * 3);
+    for (int y = 0; y < scaled.height(); y += 7) {
+        for (int x = 0; x < scaled.width(); ++x) {
+            ASSERT_EQ(scaled.pixel(x, y) | 0xFF000000U, board.pixel(x / 3, y / 3));
+        }
+    }
+}
+
+TEST_F(RenderCommand, FailedPlaysAreToldAndTheOthersGoOn) {
+    const QString good = writePlay("good.zpf");
+    const QString empty = write("empty.zpf", {});
+    QDir().mkpath(path("folder.zpf"));
+    const ProgramRun run = render({path("missing.zpf"), path("folder.zpf"), empty, good});
+    EXPECT_EQ(run.code, ExitCode::Failed);
+    EXPECT_THAT(run.err, HasSubstr("missing.zpf: no such file"));
+    EXPECT_THAT(run.err, HasSubstr("folder.zpf: is no file"));
+    EXPECT_THAT(run.err, HasSubstr("empty.zpf: holds no frame"));
+    EXPECT_EQ(pictures(), QStringList({"good-1.png", "good-2.png"}));
+}
+
+TEST_F(RenderCommand, BinaryFileHoldsNoFrame) {
+    QByteArray bytes;
+    for (int i = 0; i < 5000; ++i) {
+        bytes.append(static_cast<char>(i * 31 % 256));
+    }
+    EXPECT_THAT(render({write("noise.zpf", bytes)}).err, HasSubstr("holds no frame"));
+}
+
+TEST_F(RenderCommand, SecondPlayOfANameIsRefused) {
+    const QString play = writePlay("horns.zpf");
+    const ProgramRun run = render({play, play});
+    EXPECT_EQ(run.code, ExitCode::Failed);
+    EXPECT_THAT(run.err, HasSubstr("another play of this name"));
+    EXPECT_EQ(pictures(), QStringList({"horns-1.png", "horns-2.png"}));
+}
+
+TEST_F(RenderCommand, FolderThatCannotBeMadeIsTold) {
+    write("out", "a file in the way");
+    const ProgramRun run = render({writePlay("horns.zpf")});
+    EXPECT_EQ(run.code, ExitCode::Failed);
+    EXPECT_THAT(run.err, HasSubstr("cannot make the folder"));
+}
+
+TEST_F(RenderCommand, PictureThatCannotBeWrittenIsTold) {
+    QDir().mkpath(path("out/horns-1.png"));
+    const ProgramRun run = render({writePlay("horns.zpf")});
+    EXPECT_EQ(run.code, ExitCode::Failed);
+    EXPECT_THAT(run.err, HasSubstr("horns-1.png"));
+}
+
+TEST_F(RenderCommand, SenselessWishesDrawNothing) {
+    const QString play = writePlay("horns.zpf");
+    for (const QStringList& words :
+         {QStringList{}, QStringList{play, "-f", "gif"}, QStringList{play, "-s", "0"},
+          QStringList{play, "-s", "9"}, QStringList{play, "-s", "two"}, QStringList{play, "--dance"}}) {
+        const ProgramRun run = render(words);
+        EXPECT_EQ(run.code, ExitCode::Usage) << words.join(' ').toStdString();
+        EXPECT_THAT(run.err, HasSubstr("Usage: zpf render"));
+    }
+    EXPECT_EQ(ProgramRun({"render", play}).code, ExitCode::Usage) << "no folder";
+    EXPECT_THAT(pictures(), IsEmpty());
+}
+
+TEST_F(RenderCommand, HelpIsNoFault) {
+    const ProgramRun run({"render", "--help"});
+    EXPECT_EQ(run.code, ExitCode::Done);
+    EXPECT_THAT(run.out, HasSubstr("Usage: zpf render"));
+}
+
+} // namespace
+} // namespace zeltrona::zpf
