@@ -43,13 +43,11 @@ private:
 
     void appendFrameLine(std::string_view line, std::string& out) {
         m_renaming = m_renaming || line == m_header;
-        if (!m_renaming) {
-            out.append(line);
-        } else if (line == m_header) {
+        if (line == m_header) {
             out.append(headerOf(m_next - 1));
-        } else if (line == m_numberLine) {
+        } else if (m_renaming && line == m_numberLine) {
             out.append(numberLineOf(m_next - 1));
-        } else if (line == m_followingHeader) {
+        } else if (m_renaming && line == m_followingHeader) {
             out.append(m_header);
             expectFrame(m_next + 1);
         } else {
