@@ -6,25 +6,15 @@
 
 #include <QWidget>
 
-#include <exception>
-
 namespace zeltrona::dialogs {
-namespace {
-
-constexpr int kIllegalCall = 5; // the number of an error that has none of its own
-
-} // namespace
 
 PlayFont readPlayFont(QWidget* window, const document::PlayFile& play) {
     std::string name = "Arial";
     std::int16_t charset = 238;
-    try {
-        document::readFontConfig(play, name, charset);
-        return {QString::fromStdString(document::toUtf8(name, charset)), charset};
-    } catch (const std::exception& error) {
-        platform::showTrappedError(window, kIllegalCall, QString::fromLocal8Bit(error.what()));
-        return {};
+    if (const auto error = document::readFontConfig(play, name, charset)) {
+        platform::showTrappedError(window, error->number, QString::fromStdString(error->description));
     }
+    return {QString::fromStdString(document::toUtf8(name, charset)), charset};
 }
 
 void keepPlayFont(document::PlayFile& play, document::Session& session, const platform::FontChoice& choice) {

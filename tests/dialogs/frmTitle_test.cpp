@@ -120,6 +120,16 @@ TEST_F(TitleWindow, TakesTheCharacterSetOfThePlay) {
     EXPECT_EQ(control<QLineEdit>(form, "Text1").text(), QStringLiteral("\u0436"));
 }
 
+TEST_F(TitleWindow, FontKeyThatCannotBeReadIsToldAndLeavesTheDefaults) {
+    begin("[Config]\nfont=Courier,abc,\n");
+    answers.expectMessage(QStringLiteral("Error: \nError Number:13\nDescription:Type mismatch"),
+                          QStringLiteral("Ok"), QStringLiteral("Error"));
+    frmTitle form(play.file, session, nullptr);
+    EXPECT_EQ(answers.answered(), 1);
+    EXPECT_EQ(session.fontCharset, 238);
+    EXPECT_EQ(control<QLineEdit>(form, "Text1").font().family(), QStringLiteral("Arial"));
+}
+
 TEST_F(TitleWindow, CharacterThatTheCodePageLacksIsSeenAtOnce) {
     frmTitle form(play.file, session, nullptr);
     control<QLineEdit>(form, "Text1").setText(QStringLiteral("a\u0436"));

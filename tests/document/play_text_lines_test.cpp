@@ -132,7 +132,7 @@ TEST(PlayTextLines, ASectionMayBeEmpty) {
 TEST(PlayTextLines, ZeroBytesEndNothing) {
     const std::string text("[A]\r\nx=1\0"
                            "2\r\n\0y=3\r\nz\0=4\r\n[B\0]\r\nv=5\r\n",
-                           42);
+                           35);
     EXPECT_EQ(read(text, "A", "x"), std::string("1\0"
                                                 "2",
                                                 3));
