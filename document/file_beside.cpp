@@ -50,8 +50,10 @@ mode_t usualMode() {
 
 // Whether both, or the group alone, could be kept.
 bool keepOwner(int file, const struct stat& old) {
-    return ::fchown(file, old.st_uid, old.st_gid) == 0
-           || ::fchown(file, static_cast<uid_t>(-1), old.st_gid) == 0;
+    const auto give = [&](uid_t owner) {
+        return retry([&] { return ::fchown(file, owner, old.st_gid); }) == 0;
+    };
+    return give(old.st_uid) || give(static_cast<uid_t>(-1));
 }
 
 // Some file systems know no rights of single files; a save there is worth more than they are.
@@ -73,7 +75,7 @@ FileBeside::FileBeside(const std::string& target) {
 
 FileBeside::~FileBeside() {
     if (m_file.isOpen() && !m_renamed) {
-        ::unlink(m_path.c_str());
+        retry([this] { return ::unlink(m_path.c_str()); });
     }
 }
 
@@ -118,12 +120,14 @@ std::int64_t FileBeside::setTellingTime() {
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
     const std::array<timespec, 2> accessAndChange = {now, now};
-    return ::futimens(m_file.number(), accessAndChange.data()) == 0 ? posix::nanosecondsOf(now) : 0;
+    const bool set = retry([&] { return ::futimens(m_file.number(), accessAndChange.data()); }) == 0;
+    return set ? posix::nanosecondsOf(now) : 0;
 }
 
 FileStamp FileBeside::stamp() const {
     struct stat status {};
-    return ::fstat(m_file.number(), &status) == 0 ? posix::stampOf(status) : FileStamp{};
+    const bool known = retry([&] { return ::fstat(m_file.number(), &status); }) == 0;
+    return known ? posix::stampOf(status) : FileStamp{};
 }
 
 bool FileBeside::isNameOfOne(std::string_view name) {

@@ -15,8 +15,9 @@ using posix::retry;
 bool stillHasTheName(const Descriptor& file, const std::string& path) {
     struct stat held {};
     struct stat named {};
-    return ::fstat(file.number(), &held) == 0 && ::stat(path.c_str(), &named) == 0
-           && held.st_dev == named.st_dev && held.st_ino == named.st_ino;
+    return retry([&] { return ::fstat(file.number(), &held); }) == 0
+           && retry([&] { return ::stat(path.c_str(), &named); }) == 0 && held.st_dev == named.st_dev
+           && held.st_ino == named.st_ino;
 }
 
 } // namespace

@@ -97,4 +97,11 @@ WriteResult WriteBatch::commit() {
     return m_play.m_state->commitBatch();
 }
 
+WriteResult WriteBatch::fail(WriteResult why) {
+    if (std::exchange(m_open, false)) {
+        m_play.m_state->failBatch(why);
+    }
+    return why;
+}
+
 } // namespace zeltrona::document

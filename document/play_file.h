@@ -99,6 +99,9 @@ public:
     WriteBatch(const WriteBatch&) = delete;
     WriteBatch& operator=(const WriteBatch&) = delete;
     WriteResult commit();
+    /// Gives an act up that failed ahead of its commit: takes its writes back and, as the outermost, tells
+    /// the observer why. Gives the reason on.
+    WriteResult fail(WriteResult why);
 
 private:
     PlayFile& m_play;

@@ -99,10 +99,21 @@ WriteResult PlayFile::State::commitBatch() {
     } else {
         dropBatch();
     }
+    tell(result);
+    return result;
+}
+
+void PlayFile::State::failBatch(const WriteResult& why) {
+    dropBatch();
+    if (m_marks.empty()) {
+        tell(why);
+    }
+}
+
+void PlayFile::State::tell(const WriteResult& result) const {
     if (m_observer) {
         m_observer(result);
     }
-    return result;
 }
 
 void PlayFile::State::dropBatch() {

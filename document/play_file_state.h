@@ -32,6 +32,7 @@ public:
     void openBatch();
     WriteResult commitBatch();
     void dropBatch();
+    void failBatch(const WriteResult& why);
 
     void setObserver(std::function<void(const WriteResult&)> observer) { m_observer = std::move(observer); }
 
@@ -46,6 +47,7 @@ private:
     bool isUnchanged(const FileLook& look);
     void adopt(FileLook look);
     WriteResult store();
+    void tell(const WriteResult& result) const;
 
     std::string m_path;
     PlayText m_text;

@@ -78,7 +78,7 @@ FileLook readWholeFile(const std::string& path) {
     }
     const Descriptor file(retry([&] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); }));
     struct stat status {};
-    if (!file.isOpen() || ::fstat(file.number(), &status) != 0) {
+    if (!file.isOpen() || retry([&] { return ::fstat(file.number(), &status); }) != 0) {
         return unreadable(errno);
     }
     look = lookFrom(status);

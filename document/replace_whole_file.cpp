@@ -31,7 +31,7 @@ int followLinks(std::string& path) {
     }
     for (int step = 0; step < kMostLinks; ++step) {
         std::array<char, PATH_MAX> target{};
-        const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+        const ssize_t length = retry([&] { return ::readlink(path.c_str(), target.data(), target.size()); });
         if (length < 0) {
             return errno == EINVAL || errno == ENOENT ? 0 : errno;
         }
@@ -50,7 +50,7 @@ int lookAtOld(const std::string& target, struct stat& old, bool& exists) {
     if (!S_ISREG(old.st_mode)) {
         return S_ISDIR(old.st_mode) ? EISDIR : EINVAL;
     }
-    return ::access(target.c_str(), W_OK) == 0 ? 0 : errno;
+    return retry([&] { return ::access(target.c_str(), W_OK); }) == 0 ? 0 : errno;
 }
 
 // Some file systems have no flush for folders; they keep names safe by other means.

@@ -32,8 +32,8 @@ void resetAllPaths(FrameRecords& records) {
 }
 
 /// The shown frame is stored, and `after` becomes the state of the new one.
-WriteResult storeBoth(PlayFile& play, Session& session, FrameRecords& after, std::int16_t newFrame) {
-    WriteBatch batch(play);
+WriteResult storeBoth(PlayFile& play, WriteBatch& batch, Session& session, FrameRecords& after,
+                      std::int16_t newFrame) {
     saveFrame(play, session, after, session.currFrame, false);
     session.currFrame = newFrame;
     carryPathEnds(after);
@@ -56,7 +56,7 @@ WriteResult takeFrameOut(PlayFile& play, std::int16_t frame, const std::string& 
         WriteResult rewritten =
             replaceThroughTemporary(play, closeFrameGap(play.bytes(), frame), programFolder);
         if (!rewritten.ok()) {
-            return rewritten;
+            return batch.fail(std::move(rewritten));
         }
     }
     return batch.commit();
@@ -98,13 +98,17 @@ StepOutcome stepUp(const PlayFile& play, Session& session, FrameRecords& records
 }
 
 WriteResult makeNewFrame(PlayFile& play, Session& session, FrameRecords& records) {
+    // Counted within the act: a play that cannot be read just now has frames all the same, and they must not
+    // be written over by a new first one.
+    WriteBatch batch(play);
     const std::int16_t count = countFrames(play);
     if (count == std::numeric_limits<std::int16_t>::max()) {
-        return saveFrame(play, session, records, session.currFrame, false);
+        saveFrame(play, session, records, session.currFrame, false);
+        return batch.commit();
     }
     const std::int16_t shown = session.currFrame;
     FrameRecords after = records;
-    WriteResult result = storeBoth(play, session, after, static_cast<std::int16_t>(count + 1));
+    WriteResult result = storeBoth(play, batch, session, after, static_cast<std::int16_t>(count + 1));
     if (!result.ok()) {
         session.currFrame = shown;
         return result;

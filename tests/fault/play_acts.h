@@ -1,0 +1,31 @@
+#pragma once
+
+#include "document/frame_records.h"
+#include "document/play_file.h"
+#include "document/session.h"
+
+#include <cstdint>
+#include <string>
+
+namespace zeltrona::tests {
+
+/// A small whole play of three frames to begin with.
+std::string firstPlay();
+
+/// One act of a user on the play: act number `number` of an endless row of saves, new frames, deletions of
+/// frames and of objects, notes and titles. What it does follows from the number and from the play alone, so
+/// that the row can be taken up again at any act and leads to the same bytes.
+struct PlayAct {
+    int number = 0;
+    std::int16_t count = 0;
+    document::Session session;
+    document::FrameRecords records;
+};
+/// Shows the frame that the act begins with, as the user sees it before acting.
+PlayAct prepareAct(const document::PlayFile& play, int number);
+document::WriteResult performAct(document::PlayFile& play, PlayAct& act, const std::string& programFolder);
+
+/// Both.
+document::WriteResult doAct(document::PlayFile& play, int number, const std::string& programFolder);
+
+} // namespace zeltrona::tests
