@@ -4,6 +4,12 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()
 
+# So does a quick linker, where there is one.
+find_program(MOLD_PROGRAM mold)
+if(MOLD_PROGRAM)
+  add_link_options(-fuse-ld=mold)
+endif()
+
 # Warnings belong to our own targets, so they travel on an interface library and not on the whole build.
 add_library(zeltrona_warnings INTERFACE)
 target_compile_options(zeltrona_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
