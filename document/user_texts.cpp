@@ -2,17 +2,16 @@
 
 #include "document/frame_keys.h"
 #include "document/name_match.h"
+#include "document/vendor.h"
 
 namespace zeltrona::document {
 
 namespace {
 
-constexpr std::string_view kHeader = "       Zeltrona        \r\n"
-                                     "  www.zeltrona.example   \r\n"
-                                     " ZQ  Script  Generator  \r\n"
-                                     "\r\n"
-                                     "========================\r\n"
-                                     "\r\n";
+std::string header() {
+    return "       Zeltrona        \r\n  " + std::string(kWebAddress)
+           + "   \r\n ZQ  Script  Generator  \r\n\r\n========================\r\n\r\n";
+}
 
 /// The text with its CR LF pairs as `pair` and other line ends as blanks.
 std::string onOneLine(std::string_view text, char pair) {
@@ -71,7 +70,7 @@ WriteResult writeNote(PlayFile& play, std::int16_t frame, std::string_view text)
 }
 
 WriteResult writePlayHeader(PlayFile& play) {
-    return play.replaceAll(std::string(kHeader));
+    return play.replaceAll(header());
 }
 
 } // namespace zeltrona::document

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/vendor.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -10,7 +12,7 @@
 namespace zeltrona::output {
 
 /// The page that the report's title names.
-inline constexpr std::string_view kHomePage = "www.zeltrona.example";
+inline constexpr std::string_view kHomePage = document::kWebAddress;
 
 /// What the web report is made of. Texts are bytes in the play's code page: they go into the page as they
 /// stand.

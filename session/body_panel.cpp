@@ -51,6 +51,11 @@ void BodyPanel::openAt(QPoint place) {
     raise();
 }
 
+void BodyPanel::setTags(const QString& side, const QString& playerIndex) {
+    m_tag = side;
+    pBodyTool[1]->setProperty("Tag", playerIndex);
+}
+
 void BodyPanel::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
     if (event->type() == QEvent::FontChange) {

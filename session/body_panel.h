@@ -20,6 +20,9 @@ public:
     /// Shows the panel at a place on the board, moved back as far as the board's edge asks.
     void openAt(QPoint place);
 
+    /// `Tag` of item 0 and of item 1.
+    void setTags(const QString& side, const QString& playerIndex);
+
     /// Index 0 is empty: item 0 is the panel itself.
     std::array<QToolButton*, 5> pBodyTool{};
 

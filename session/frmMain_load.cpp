@@ -39,13 +39,13 @@ std::optional<std::int16_t> frmMain::load() {
     resetSessionAndCounter();
     m_controls.pToolbox->paintToolIcons();
     resetRecords();
-    document::loadConfig(m_play, m_session, m_records);
+    document::loadConfig(m_desk.play, m_desk.session, m_desk.records);
     loadFont();
     layoutWindowForCourt();
     m_controls.pStatus->print(QStringLiteral(" Ready"));
     drawFirstCourt();
     layoutNewPlayers();
-    m_surface.refresh();
+    m_desk.surface.refresh();
     resetAnimation();
     if (const auto missing = setMainCaptions()) {
         return missing;
@@ -55,66 +55,69 @@ std::optional<std::int16_t> frmMain::load() {
 }
 
 void frmMain::resetSessionAndCounter() {
-    m_session.hideCharsetMessage = false;
-    m_session.showCurves = 0;
-    m_session.currFrame = 1;
-    showFrameOfCount(1, document::countFrames(m_play));
+    m_desk.session.hideCharsetMessage = false;
+    m_desk.session.showCurves = 0;
+    m_desk.session.currFrame = 1;
+    showFrameOfCount(1, document::countFrames(m_desk.play));
 }
 
 void frmMain::resetRecords() {
-    m_records = document::FrameRecords();
+    m_desk.editor = editor::EditorState();
+    m_desk.records = document::FrameRecords();
 }
 
 void frmMain::loadFont() {
     std::string name = "Arial";
     std::int16_t charset = kDefaultCharset;
-    if (const auto error = document::readFontConfig(m_play, name, charset)) {
+    if (const auto error = document::readFontConfig(m_desk.play, name, charset)) {
         platform::showTrappedError(this, error->number, QString::fromStdString(error->description));
     }
-    m_surface.state.font.charset = charset;
-    m_session.fontCharset = charset;
+    m_desk.surface.state.font.charset = charset;
+    m_desk.session.fontCharset = charset;
 }
 
 void frmMain::layoutWindowForCourt() {
-    const QSize size = render::boardSizeOf(m_session.court);
-    m_surface.resize(size.width(), size.height());
-    m_surface.refresh();
-    placeMainControls(*this, m_controls, courtLayoutOf(m_session.court));
+    const QSize size = render::boardSizeOf(m_desk.session.court);
+    m_desk.surface.resize(size.width(), size.height());
+    m_desk.surface.refresh();
+    placeMainControls(*this, m_controls, courtLayoutOf(m_desk.session.court));
 }
 
 void frmMain::drawFirstCourt() {
     render::Board target = board();
-    render::drawCourt(target, m_session);
+    render::drawCourt(target, m_desk.session);
 }
 
 void frmMain::layoutNewPlayers() {
-    if (m_session.newFileFlag) {
+    if (m_desk.session.newFileFlag) {
         placeAndStoreNewPlayers();
         return;
     }
-    document::loadFrame(m_play, m_session, m_records, 1);
+    document::loadFrame(m_desk.play, m_desk.session, m_desk.records, 1);
     redrawBoard(0, 0);
 }
 
 void frmMain::placeAndStoreNewPlayers() {
-    document::placeNewPlayers(m_session, m_records);
+    document::placeNewPlayers(m_desk.session, m_desk.records);
     render::Board target = board();
     const auto draw = [&](const std::vector<document::PlayerRec>& side, std::int32_t fill, std::int32_t ink) {
         for (const document::PlayerRec& player : side) {
             if (document::isEmptyPlayer(player)) {
                 return;
             }
-            render::drawPlayers(target, player.x, player.y, fill, player.txt, ink, m_session.fontCharset);
+            render::drawPlayers(target, player.x, player.y, fill, player.txt, ink,
+                                m_desk.session.fontCharset);
         }
     };
-    draw(m_records.offPlayers, m_session.colorOff, m_session.colorOffFont);
-    draw(m_records.defPlayers, m_session.colorDef, m_session.colorDefFont);
-    document::saveFrame(m_play, m_session, m_records, 1, false);
-    m_surface.refresh();
+    draw(m_desk.records.offPlayers, m_desk.session.colorOff, m_desk.session.colorOffFont);
+    draw(m_desk.records.defPlayers, m_desk.session.colorDef, m_desk.session.colorDefFont);
+    document::saveFrame(m_desk.play, m_desk.session, m_desk.records, 1, false);
+    m_desk.surface.refresh();
 }
 
 void frmMain::resetAnimation() {
-    m_session.animLoop = false;
+    m_desk.session.animLoop = false;
+    m_transportBridge.showLoop();
     m_controls.pToolAnim->txtAnimSpeed->setText(QStringLiteral("3"));
 }
 
@@ -138,16 +141,16 @@ std::optional<std::int16_t> frmMain::setMainCaptions() {
         Caption{21, frames.seqNotes, onButton(frames.seqNotes)},
     };
     for (const Caption& caption : captions) {
-        const auto text = localText(m_session, caption.offset);
+        const auto text = localText(m_desk.session, caption.offset);
         if (!text) {
-            return stringId(m_session, caption.offset);
+            return stringId(m_desk.session, caption.offset);
         }
         caption.show(*text);
         caption.owner->setAccessibleName(*text);
     }
     // Captions of another language may ask for another width.
     frames.fitCaptions();
-    placeMainControls(*this, m_controls, courtLayoutOf(m_session.court));
+    placeMainControls(*this, m_controls, courtLayoutOf(m_desk.session.court));
     return std::nullopt;
 }
 

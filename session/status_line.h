@@ -15,6 +15,7 @@ public:
     explicit StatusLine(QWidget* parent);
 
     QString text() const;
+    QString hint() const { return m_hint; }
     /// Clears the line and prints the hint.
     void print(const QString& hint);
     /// Stands in front of every hint until it is emptied.

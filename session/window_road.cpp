@@ -1,12 +1,12 @@
 #include "session/window_road.h"
 
+#include "dialogs/frmConfig.h"
+#include "dialogs/frmConfig1.h"
 #include "platform/message_box.h"
 #include "platform/string_table.h"
 #include "session/frmGameSelect.h"
 #include "session/frmMain.h"
 #include "session/frmSplash.h"
-
-#include <memory>
 
 namespace zeltrona::session {
 
@@ -28,15 +28,41 @@ void WindowRoad::showSplash() {
 void WindowRoad::showGameSelect() {
     auto* select = new frmGameSelect(m_session);
     connect(select, &frmGameSelect::savedFileChosen, this, [this, select] { showMain(*select); });
+    connect(select, &frmGameSelect::newFileMade, this, [this, select] { showConfig(*select); });
     select->show();
+}
+
+void WindowRoad::showConfig(QWidget& before) {
+    m_newPlay = std::make_unique<document::PlayFile>(m_session.playFilePath);
+    auto window = std::make_unique<dialogs::frmConfig>(*m_newPlay, m_session);
+    if (const std::int16_t missing = window->missingCaption()) {
+        failFor(before, missing);
+        return;
+    }
+    dialogs::frmConfig* shown = window.release();
+    shown->setAttribute(Qt::WA_DeleteOnClose);
+    connect(shown, &dialogs::frmConfig::nextStep, this, [this, shown] { showConfig1(*shown); });
+    shown->show();
+    before.close();
+}
+
+void WindowRoad::showConfig1(QWidget& before) {
+    auto window = std::make_unique<dialogs::frmConfig1>(*m_newPlay, m_session);
+    if (const std::int16_t missing = window->missingCaption()) {
+        failFor(before, missing);
+        return;
+    }
+    dialogs::frmConfig1* shown = window.release();
+    shown->setAttribute(Qt::WA_DeleteOnClose);
+    connect(shown, &dialogs::frmConfig1::nextStep, this, [this, shown] { showMain(*shown); });
+    shown->show();
+    before.close();
 }
 
 void WindowRoad::showMain(QWidget& before) {
     auto window = std::make_unique<frmMain>(m_session, m_art);
     if (const auto missing = window->load()) {
-        platform::showRunTimeError(&before, platform::kMissingStringError,
-                                   platform::missingStringText(*missing));
-        emit failed(kFailureCode);
+        failFor(before, *missing);
         return;
     }
     frmMain* shown = window.release();
@@ -46,6 +72,12 @@ void WindowRoad::showMain(QWidget& before) {
     });
     shown->show();
     before.close();
+}
+
+void WindowRoad::failFor(QWidget& before, std::int16_t missingString) {
+    platform::showRunTimeError(&before, platform::kMissingStringError,
+                               platform::missingStringText(missingString));
+    emit failed(kFailureCode);
 }
 
 } // namespace zeltrona::session
