@@ -5,6 +5,7 @@
 #include "document/frame_records.h"
 #include "document/frame_store.h"
 #include "document/play_file.h"
+#include "document/sequence.h"
 
 #include <QSettings>
 
@@ -138,6 +139,27 @@ void storeOneFrame(benchmark::State& state) {
 }
 BENCHMARK(storeOneFrame)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+// As the window does it: the play is open and its frames have been counted for the position.
+void deleteOneFrame(benchmark::State& state) {
+    const PlayOnDisk disk(kFrames);
+    const fs::path programFolder = fs::path(disk.path()).parent_path();
+    PlayFile play(disk.path());
+    Session session;
+    FrameRecords records;
+    for (auto step : state) {
+        state.PauseTiming();
+        play.replaceAll(disk.bytes());
+        session.currFrame = kFrames / 2;
+        benchmark::DoNotOptimize(countFrames(play));
+        state.ResumeTiming();
+        const WriteResult result = deleteShownFrame(play, session, records, programFolder.string());
+        if (!result.ok()) {
+            state.SkipWithError(result.reason.c_str());
+        }
+    }
+}
+BENCHMARK(deleteOneFrame)->Unit(benchmark::kMillisecond)->UseRealTime();
+
 bool writePlainly(const std::string& path, const std::string& bytes) {
     const std::string beside = path + ".new";
     const int file = ::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
@@ -165,6 +187,7 @@ int main(int count, char** arguments) {
         bench::Ratio{"cold-parse-to-GKeyFile", "coldParse", "coldParseGKeyFile", 1.0},
         bench::Ratio{"load-frame-of-1000-to-10", "loadOneFrame/1000", "loadOneFrame/10", 1.1},
         bench::Ratio{"store-frame-to-plain-write", "storeOneFrame", "storePlainly", 1.5},
+        bench::Ratio{"delete-frame-to-plain-write", "deleteOneFrame", "storePlainly", 3.0},
     };
     return bench::runWithRatios(count, arguments, ratios);
 }

@@ -7,6 +7,20 @@
 
 namespace zeltrona::document {
 
+namespace {
+
+bool holds(const PlayText& text, std::string_view bytes) {
+    for (const std::string_view piece : text.pieces()) {
+        if (!bytes.starts_with(piece)) {
+            return false;
+        }
+        bytes.remove_prefix(piece.size());
+    }
+    return bytes.empty();
+}
+
+} // namespace
+
 PlayFile::PlayFile(std::string path) : m_state(std::make_unique<State>(std::move(path))) {}
 PlayFile::~PlayFile() = default;
 PlayFile::PlayFile(PlayFile&&) noexcept = default;
@@ -62,7 +76,7 @@ std::string PlayFile::bytes() const {
 
 WriteResult PlayFile::replaceAll(std::string bytes) {
     return m_state->apply([&](PlayText& text) {
-        const bool changed = text.bytes() != bytes;
+        const bool changed = !holds(text, bytes);
         text = PlayText(std::move(bytes));
         return changed;
     });

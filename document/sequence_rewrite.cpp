@@ -1,7 +1,10 @@
 #include "document/sequence_rewrite.h"
 
 #include "document/line_scanner.h"
+#include "document/name_match.h"
 #include "document/number_text.h"
+
+#include <optional>
 
 namespace zeltrona::document {
 
@@ -22,37 +25,39 @@ class Renumbering {
 public:
     explicit Renumbering(std::int16_t deleted) : m_nextNote(deleted + 1) { expectFrame(deleted + 1); }
 
-    void append(std::string_view line, std::string& out) {
+    /// What stands for the line; nothing where it stays.
+    std::optional<std::string> renumbered(std::string_view line) {
         if (isNextNote(line)) {
-            out.append(kNotes).append(std::to_string(m_nextNote - 1)).append(line.substr(line.find('=')));
             ++m_nextNote;
-        } else {
-            appendFrameLine(line, out);
+            return std::string(kNotes) + std::to_string(m_nextNote - 2)
+                   + std::string(line.substr(line.find('=')));
         }
+        return renumberedFrame(line);
     }
 
 private:
     bool isNextNote(std::string_view line) const {
-        const std::size_t equals = line.find('=');
-        if (line.substr(0, kNotes.size()) != kNotes || equals == line.npos) {
+        if (!line.starts_with(kNotes)) {
             return false;
         }
-        const std::string_view number = line.substr(kNotes.size(), equals - kNotes.size());
-        return numericField(number) == m_nextNote;
+        const std::size_t equals = line.find('=');
+        return equals != line.npos
+               && numericField(line.substr(kNotes.size(), equals - kNotes.size())) == m_nextNote;
     }
 
-    void appendFrameLine(std::string_view line, std::string& out) {
+    std::optional<std::string> renumberedFrame(std::string_view line) {
         m_renaming = m_renaming || line == m_header;
         if (line == m_header) {
-            out.append(headerOf(m_next - 1));
-        } else if (m_renaming && line == m_numberLine) {
-            out.append(numberLineOf(m_next - 1));
-        } else if (m_renaming && line == m_followingHeader) {
-            out.append(m_header);
-            expectFrame(m_next + 1);
-        } else {
-            out.append(line);
+            return headerOf(m_next - 1);
         }
+        if (m_renaming && line == m_numberLine) {
+            return numberLineOf(m_next - 1);
+        }
+        if (m_renaming && line == m_followingHeader) {
+            expectFrame(m_next + 1);
+            return headerOf(m_next - 1);
+        }
+        return std::nullopt;
     }
 
     void expectFrame(std::int32_t frame) {
@@ -76,10 +81,18 @@ std::string closeFrameGap(std::string_view bytes, std::int16_t deleted) {
     Renumbering renumbering(deleted);
     std::string result;
     result.reserve(bytes.size() + 2);
+    std::size_t copied = 0; // lines that stay are copied in runs
     for (LineScanner lines(bytes); !lines.atEnd();) {
+        const std::size_t begin = lines.position();
         const TextLine line = lines.next();
-        renumbering.append(line.text, result);
-        result.append(line.end.empty() ? std::string_view("\r\n") : line.end);
+        if (const std::optional<std::string> changed = renumbering.renumbered(line.text)) {
+            result.append(bytes.substr(copied, begin - copied)).append(*changed);
+            copied = begin + line.text.size();
+        }
+    }
+    result.append(bytes.substr(copied));
+    if (!result.empty() && !isLineEnd(result.back())) {
+        result.append("\r\n");
     }
     return result;
 }

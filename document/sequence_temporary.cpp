@@ -34,14 +34,14 @@ public:
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-    /// Fills `bytes` with what the file holds after they have gone through it; the reason on failure.
-    WriteResult carry(std::string& bytes) {
+    /// What the file holds after `bytes` have gone through it; the reason on failure.
+    FileLook carry(std::string_view bytes) {
         if (!m_file.isOpen() || !writeAll(bytes)) {
-            return {posix::reasonOf(errno)};
+            FileLook failed;
+            failed.reason = posix::reasonOf(errno);
+            return failed;
         }
-        FileLook copied = readWholeFile(m_path);
-        bytes = std::move(copied.bytes);
-        return {std::move(copied.reason)};
+        return readWholeFile(m_path);
     }
 
 private:
@@ -79,11 +79,11 @@ std::vector<std::string> temporaryPaths(const PlayFile& play, const std::string&
 WriteResult replaceThroughTemporary(PlayFile& play, std::string bytes, const std::string& programFolder) {
     WriteResult failed;
     for (const std::string& path : temporaryPaths(play, programFolder)) {
-        std::string copied = bytes;
-        failed = TemporaryFile(path).carry(copied);
-        if (failed.ok()) {
-            return play.replaceAll(std::move(copied));
+        FileLook copied = TemporaryFile(path).carry(bytes);
+        if (copied.reason.empty()) {
+            return play.replaceAll(std::move(copied.bytes));
         }
+        failed.reason = std::move(copied.reason);
     }
     return failed.ok() ? play.replaceAll(std::move(bytes)) : failed;
 }
