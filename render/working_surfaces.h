@@ -9,6 +9,11 @@ namespace zeltrona::render {
 /// repaints them completely. They stay only so that nothing is made anew for each player.
 struct WorkingSurfaces {
     WorkingSurfaces();
+    // A copy would start to remember anew, at the cost of a slow redraw each time.
+    WorkingSurfaces(const WorkingSurfaces&) = delete;
+    WorkingSurfaces& operator=(const WorkingSurfaces&) = delete;
+    WorkingSurfaces(WorkingSurfaces&&) = default;
+    WorkingSurfaces& operator=(WorkingSurfaces&&) = default;
 
     BoardSurface pMask{26, 26};  ///< mask of a circle player or a ball
     BoardSurface p{26, 26};      ///< colours of a circle player

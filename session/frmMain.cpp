@@ -13,6 +13,7 @@ namespace zeltrona::session {
 
 frmMain::frmMain(document::Session& session, const render::BoardArt& art)
     : m_desk(session, art),
+      m_board{m_desk.surface, m_desk.art, [this](const char* text) { showDrawingError(text); }},
       m_controls(buildMainControls(*this)),
       Timer1(new QTimer(this)),
       mnuPopUp(buildPopUpMenu(*this, menuHandlers())),
@@ -43,10 +44,8 @@ MainWindowParts frmMain::parts() {
     return {*this, m_desk, m_controls, m_timer};
 }
 
-render::Board frmMain::board() {
-    return {m_desk.surface, m_desk.art, [this](const char* text) {
-                platform::showMessage(this, QString::fromLatin1(text), platform::Icon::Critical);
-            }};
+void frmMain::showDrawingError(const char* text) {
+    platform::showMessage(this, QString::fromLatin1(text), platform::Icon::Critical);
 }
 
 render::Scene frmMain::scene() const {
@@ -54,8 +53,7 @@ render::Scene frmMain::scene() const {
 }
 
 void frmMain::redrawBoard(float pointerX, float pointerY) {
-    render::Board target = board();
-    render::redrawBoard(target, scene(), pointerX, pointerY);
+    render::redrawBoard(m_board, scene(), pointerX, pointerY);
 }
 
 void frmMain::showWriteOutcome(const document::WriteResult& outcome) {

@@ -45,7 +45,7 @@ public:
     /// Repaints the board from the records; the place is the free end of a line under construction.
     void redrawBoard(float pointerX, float pointerY);
     /// The board as painters take it; a failed drawing is told to the user.
-    render::Board board();
+    render::Board& board() { return m_board; }
 
     void cmdSeqNoDown_Click();
     void cmdSeqNoUp_Click();
@@ -105,6 +105,7 @@ private:
     void walkFrames(const std::function<void(output::FrameWalk&)>& work);
     void showProgress(int frame, int frames);
 
+    void showDrawingError(const char* text);
     void showWriteOutcome(const document::WriteResult& outcome);
     void showTitle();
 
@@ -112,6 +113,7 @@ private:
     MainWindowParts parts();
 
     PlayDesk m_desk;
+    render::Board m_board; ///< one for the whole life: it remembers what redraws share
     MainControls m_controls;
     QTimer* Timer1;
     QMenu* mnuPopUp;

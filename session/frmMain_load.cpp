@@ -84,8 +84,7 @@ void frmMain::layoutWindowForCourt() {
 }
 
 void frmMain::drawFirstCourt() {
-    render::Board target = board();
-    render::drawCourt(target, m_desk.session);
+    render::drawCourt(m_board, m_desk.session);
 }
 
 void frmMain::layoutNewPlayers() {
@@ -99,13 +98,12 @@ void frmMain::layoutNewPlayers() {
 
 void frmMain::placeAndStoreNewPlayers() {
     document::placeNewPlayers(m_desk.session, m_desk.records);
-    render::Board target = board();
     const auto draw = [&](const std::vector<document::PlayerRec>& side, std::int32_t fill, std::int32_t ink) {
         for (const document::PlayerRec& player : side) {
             if (document::isEmptyPlayer(player)) {
                 return;
             }
-            render::drawPlayers(target, player.x, player.y, fill, player.txt, ink,
+            render::drawPlayers(m_board, player.x, player.y, fill, player.txt, ink,
                                 m_desk.session.fontCharset);
         }
     };

@@ -125,11 +125,10 @@ void frmMain::previewWithMode(output::PrintMode mode) {
 void frmMain::walkFrames(const std::function<void(output::FrameWalk&)>& work) {
     const std::int16_t shown = m_desk.session.currFrame;
     const QString hint = m_controls.pStatus->hint();
-    render::Board target = board();
     output::FrameWalk walk{m_desk.play,
                            m_desk.session,
                            m_desk.records,
-                           target,
+                           m_board,
                            m_desk.editor.editLineIndex,
                            [this](int frame, int frames) { showProgress(frame, frames); }};
     work(walk);

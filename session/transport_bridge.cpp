@@ -62,8 +62,7 @@ void TransportBridge::showCounter(std::string_view caption) {
 
 void TransportBridge::drawAnimationStep() {
     PlayDesk& desk = m_parts.desk;
-    render::Board board = m_parts.window.board();
-    animation::drawAnimationStep(board, {desk.playback, desk.session, desk.records});
+    animation::drawAnimationStep(m_parts.window.board(), {desk.playback, desk.session, desk.records});
 }
 
 void TransportBridge::updateFrameCurr(std::string_view caption) {
