@@ -1,6 +1,7 @@
 #include "render/arc.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
@@ -45,7 +46,7 @@ PointD placeOf(const ArcShape& arc, PointD direction) {
 
 /// The nearest pixel row or column; of two as near, the one towards the middle, so that both sides are alike.
 std::int64_t snap(double place, double middle) {
-    return static_cast<std::int64_t>(place > middle ? std::ceil(place - 0.5) : std::floor(place + 0.5));
+    return place > middle ? ceilOf(place - 0.5) : floorOf(place + 0.5);
 }
 
 struct Pixel {
@@ -63,16 +64,18 @@ public:
           m_flat(arc.radius * std::numbers::sqrt2 / 2.0),
           m_pixel(pixel) {}
 
-    void draw() {
-        for (const int side : {-1, 1}) {
-            eachIn(m_arc.middle.x, m_view.width, [&](double x) { plotIfHeld(onColumn(x, side)); });
-            eachIn(m_arc.middle.y, m_view.height, [&](double y) { plotIfHeld(onRow(y, side)); });
-        }
-        for (const int sx : {-1, 1}) {
-            for (const int sy : {-1, 1}) {
-                closeOctants(sx, sy);
-            }
-        }
+    void draw() const {
+        eachIn(m_arc.middle.x, m_view.width, [&](double x) {
+            const double height = bow(x - m_arc.middle.x);
+            plotIfHeld({x, m_arc.middle.y - height});
+            plotIfHeld({x, m_arc.middle.y + height});
+        });
+        eachIn(m_arc.middle.y, m_view.height, [&](double y) {
+            const double width = bow(y - m_arc.middle.y);
+            plotIfHeld({m_arc.middle.x - width, y});
+            plotIfHeld({m_arc.middle.x + width, y});
+        });
+        closeOctants();
         plot(placeOf(m_arc, m_sweep.start));
         plot(placeOf(m_arc, m_sweep.end));
     }
@@ -89,8 +92,6 @@ private:
     double bow(double offset) const {
         return std::sqrt(std::max(m_arc.radius * m_arc.radius - offset * offset, 0.0));
     }
-    PointD onColumn(double x, int side) const { return {x, m_arc.middle.y + side * bow(x - m_arc.middle.x)}; }
-    PointD onRow(double y, int side) const { return {m_arc.middle.x + side * bow(y - m_arc.middle.y), y}; }
 
     bool holds(PointD place) const {
         return m_sweep.holds({place.x - m_arc.middle.x, m_arc.middle.y - place.y});
@@ -108,14 +109,21 @@ private:
         }
     }
     /// Where flat turns into steep the last column and the first row may lie a pixel apart.
-    void closeOctants(int sx, int sy) const {
-        const PointD diagonal{m_arc.middle.x + sx * m_flat, m_arc.middle.y + sy * m_flat};
-        const double column = sx > 0 ? std::floor(diagonal.x) : std::ceil(diagonal.x);
-        const double row = sy > 0 ? std::floor(diagonal.y) : std::ceil(diagonal.y);
-        const Pixel flat = snapped(onColumn(column, sy));
-        const Pixel steep = snapped(onRow(row, sx));
-        if (std::max(std::abs(flat.x - steep.x), std::abs(flat.y - steep.y)) > 1) {
-            plotIfHeld(diagonal);
+    void closeOctants() const {
+        const std::array columns{std::ceil(m_arc.middle.x - m_flat), std::floor(m_arc.middle.x + m_flat)};
+        const std::array rows{std::ceil(m_arc.middle.y - m_flat), std::floor(m_arc.middle.y + m_flat)};
+        const std::array heights{bow(columns[0] - m_arc.middle.x), bow(columns[1] - m_arc.middle.x)};
+        const std::array widths{bow(rows[0] - m_arc.middle.y), bow(rows[1] - m_arc.middle.y)};
+        for (const std::size_t i : {0U, 1U}) {
+            for (const std::size_t j : {0U, 1U}) {
+                const double sx = i == 0 ? -1 : 1;
+                const double sy = j == 0 ? -1 : 1;
+                const Pixel flat = snapped({columns[i], m_arc.middle.y + sy * heights[i]});
+                const Pixel steep = snapped({m_arc.middle.x + sx * widths[j], rows[j]});
+                if (std::max(std::abs(flat.x - steep.x), std::abs(flat.y - steep.y)) > 1) {
+                    plotIfHeld({m_arc.middle.x + sx * m_flat, m_arc.middle.y + sy * m_flat});
+                }
+            }
         }
     }
 
@@ -130,51 +138,54 @@ private:
 class WideArc {
 public:
     WideArc(const PixelView& view, const ArcShape& arc, Pen pen)
-        : m_view(view), m_arc(arc), m_sweep(sweepOf(arc)), m_half(pen.width / 2.0), m_pen(pen) {
+        : m_view(view), m_arc(arc), m_sweep(sweepOf(arc)), m_outer(arc.radius + pen.width / 2.0), m_pen(pen) {
         const double lean = pen.width % 2 == 0 ? -0.5 : 0.0;
+        const double inner = std::max(arc.radius - pen.width / 2.0, 0.0);
         m_arc.middle = {arc.middle.x + lean, arc.middle.y + lean};
+        m_nearest = inner * inner - kSlack;
+        m_furthest = m_outer * m_outer - kSlack;
     }
 
-    void draw() {
-        const double outer = m_arc.radius + m_half;
-        const double top = std::max(std::ceil(m_arc.middle.y - outer), 0.0);
-        const double bottom = std::min(std::floor(m_arc.middle.y + outer), m_view.height - 1.0);
+    void draw() const {
+        const double top = std::max(std::ceil(m_arc.middle.y - m_outer), 0.0);
+        const double bottom = std::min(std::floor(m_arc.middle.y + m_outer), m_view.height - 1.0);
         for (double y = top; y <= bottom; y += 1.0) {
-            drawRow(y, outer);
+            drawRow(y);
         }
         for (const PointD end : {m_sweep.start, m_sweep.end}) {
             const PointD at = placeOf(m_arc, end);
             const double back = m_pen.width % 2 == 0 ? 0.5 : 0.0;
-            strokeWide(m_view, {at.x + back, at.y + back}, {at.x + back, at.y + back}, m_pen);
+            strokeDisc(m_view, {at.x + back, at.y + back}, m_pen);
         }
     }
 
 private:
-    void drawRow(double y, double outer) const {
-        const double reach = std::sqrt(std::max(outer * outer - squared(y - m_arc.middle.y), 0.0));
-        const double left = std::max(std::ceil(m_arc.middle.x - reach), 0.0);
-        const double right = std::min(std::floor(m_arc.middle.x + reach), m_view.width - 1.0);
-        for (double x = left; x <= right; x += 1.0) {
-            const PointD direction{x - m_arc.middle.x, m_arc.middle.y - y};
+    void drawRow(double y) const {
+        const double up = m_arc.middle.y - y;
+        const double reach = std::sqrt(std::max(m_outer * m_outer - up * up, 0.0));
+        const std::int64_t left = ceilOf(std::clamp(m_arc.middle.x - reach, 0.0, double(m_view.width)));
+        const std::int64_t right = floorOf(std::clamp(m_arc.middle.x + reach, -1.0, m_view.width - 1.0));
+        std::uint32_t* const row = m_view.row(static_cast<std::int64_t>(y));
+        for (std::int64_t x = left; x <= right; ++x) {
+            const PointD direction{static_cast<double>(x) - m_arc.middle.x, up};
             if (inBand(direction) && m_sweep.holds(direction)) {
-                m_view.row(static_cast<std::int64_t>(y))[static_cast<std::int64_t>(x)] = m_pen.pixel;
+                row[x] = m_pen.pixel;
             }
         }
     }
     /// The outer rim stays outside: a pixel that only touches it would stand out as a lone tip.
     bool inBand(PointD direction) const {
-        constexpr double kSlack = 1e-9;
-        const double inner = std::max(m_arc.radius - m_half, 0.0);
-        const double outer = m_arc.radius + m_half;
-        const double distance = squared(direction.x) + squared(direction.y);
-        return distance >= squared(inner) - kSlack && distance < squared(outer) - kSlack;
+        const double distance = direction.x * direction.x + direction.y * direction.y;
+        return distance >= m_nearest && distance < m_furthest;
     }
-    static double squared(double value) { return value * value; }
 
+    static constexpr double kSlack = 1e-9;
     const PixelView& m_view;
     ArcShape m_arc;
     Sweep m_sweep;
-    double m_half;
+    double m_outer;
+    double m_nearest = 0.0; ///< squared distances of the band's edges
+    double m_furthest = 0.0;
     Pen m_pen;
 };
 

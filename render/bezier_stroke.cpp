@@ -111,7 +111,9 @@ double bulge(const Cubic& c, PointD point) {
     const double squared = chord.x * chord.x + chord.y * chord.y;
     const double part = squared == 0.0 ? 0.0 : (way.x * chord.x + way.y * chord.y) / squared;
     const double foot = std::clamp(part, 0.0, 1.0);
-    return std::hypot(way.x - foot * chord.x, way.y - foot * chord.y);
+    const double x = way.x - foot * chord.x;
+    const double y = way.y - foot * chord.y;
+    return std::sqrt(x * x + y * y);
 }
 
 void strokeBand(const PixelView& view, const Cubic& cubic, Pen pen) {

@@ -41,6 +41,13 @@ std::optional<std::uint32_t> insideOf(const DrawingState& state) {
     return state.fillStyle == FillStyle::Solid ? std::optional(pixelOf(state.fillColor)) : std::nullopt;
 }
 
+/// Fills what a picture of this size at (0, 0) leaves bare.
+void fillAround(const PixelView& view, int width, int height, std::uint32_t pixel) {
+    for (int y = 0; y < view.height; ++y) {
+        fillSpan(view, y, y < height ? width : 0, view.width - 1, pixel);
+    }
+}
+
 } // namespace
 
 BoardSurface::BoardSurface(int width, int height)
@@ -53,10 +60,10 @@ void BoardSurface::settle() const {
     }
     m_clearPending = false;
     const PixelView view = writeView(m_image);
-    if (m_picture.width() < view.width || m_picture.height() < view.height) {
+    if (m_picture.isNull()) {
         fillAll(view, pixelOf(m_backColor));
-    }
-    if (!m_picture.isNull()) {
+    } else {
+        fillAround(view, m_picture.width(), m_picture.height(), pixelOf(m_backColor));
         copyBlock(view, readView(m_picture), {0, 0, view.width, view.height, 0, 0}, RasterOp::SrcCopy);
     }
 }
@@ -149,6 +156,19 @@ void BoardSurface::bitBlt(int x, int y, int width, int height, const QImage& sou
         const QImage words = asWords(source);
         copyBlock(view(), readView(words), {x, y, width, height, srcX, srcY}, op);
     }
+}
+
+void BoardSurface::paintSprite(std::int32_t x, std::int32_t y, const ColoredShape& lower,
+                               const ColoredShape& upper, const QImage& mask) {
+    if (lower.shape.size() != mask.size() || upper.shape.size() != mask.size()) {
+        return;
+    }
+    const QImage lowerWords = asWords(lower.shape);
+    const QImage upperWords = asWords(upper.shape);
+    const QImage maskWords = asWords(mask);
+    render::paintSprite(view(), x, y,
+                        {readView(lowerWords), readView(upperWords), readView(maskWords),
+                         pixelOf(lower.color), pixelOf(upper.color)});
 }
 
 int BoardSurface::textWidth(const QString& text) const {

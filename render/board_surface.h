@@ -31,6 +31,12 @@ struct DrawingState {
     friend bool operator==(const DrawingState&, const DrawingState&) = default;
 };
 
+/// A shape, black on white, and what stands for its black.
+struct ColoredShape {
+    QImage shape;
+    Color color = 0;
+};
+
 /// A retained 32-bit image, drawn without smoothing: a pixel is drawn or not. The board is one, and so are
 /// the working surfaces of its drawers. Units:  pixels, origin top left, y down; colours 0x00BBGGRR, bits
 /// above them do not count. Places given as
@@ -84,6 +90,10 @@ public:
     /// Copies source's rectangle at (srcX, srcY) to (x, y); what falls outside either is left out. A null
     /// source copies nothing.
     void bitBlt(int x, int y, int width, int height, const QImage& source, int srcX, int srcY, RasterOp op);
+    /// Puts two shapes in their colours on the surface, `upper` over `lower`, cut out by `mask`: pictures of
+    /// one size, black on white. Nothing when their sizes differ.
+    void paintSprite(std::int32_t x, std::int32_t y, const ColoredShape& lower, const ColoredShape& upper,
+                     const QImage& mask);
 
     /// Text measures with state.font, in pixels: the widest line; the height counts every line.
     int textWidth(const QString& text) const;

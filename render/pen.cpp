@@ -77,44 +77,69 @@ struct Reach {
         left = std::min(left, from);
         right = std::max(right, to);
     }
-    /// Keeps x with low <= slope * x + offset <= high.
-    void keep(double slope, double offset, double low, double high) {
-        if (slope == 0.0) {
-            if (offset < low || offset > high) {
-                *this = {};
-            }
-            return;
-        }
-        const double one = (low - offset) / slope;
-        const double other = (high - offset) / slope;
-        left = std::max(left, std::min(one, other));
-        right = std::min(right, std::max(one, other));
-    }
 };
 
 /// The pen's round end at `middle`.
 void addDisc(Reach& reach, PointD middle, double radius, double y) {
     const double rest = radius * radius - (y - middle.y) * (y - middle.y);
     if (rest >= 0.0) {
-        reach.add(middle.x - std::sqrt(rest), middle.x + std::sqrt(rest));
+        const double half = std::sqrt(rest);
+        reach.add(middle.x - half, middle.x + half);
     }
 }
 
+/// The x where low <= slope * x + offset <= high; `inverse` is 1 / slope.
+struct Slope {
+    double slope = 0.0;
+    double inverse = 0.0;
+
+    explicit Slope(double of) : slope(of), inverse(of == 0.0 ? 0.0 : 1.0 / of) {}
+
+    void keep(Reach& reach, double offset, double low, double high) const {
+        if (slope == 0.0) {
+            if (offset < low || offset > high) {
+                reach = {};
+            }
+            return;
+        }
+        const double one = (low - offset) * inverse;
+        const double other = (high - offset) * inverse;
+        reach.left = std::max(reach.left, std::min(one, other));
+        reach.right = std::min(reach.right, std::max(one, other));
+    }
+};
+
 /// The straight part between the ends.
-void addBar(Reach& reach, PointD from, PointD to, double radius, double y) {
-    const double length = std::hypot(to.x - from.x, to.y - from.y);
-    if (length == 0.0) {
-        return;
+class Bar {
+public:
+    Bar(PointD from, PointD to, double radius)
+        : m_from(from),
+          m_length(std::hypot(to.x - from.x, to.y - from.y)),
+          m_along(m_length == 0.0 ? 0.0 : (to.x - from.x) / m_length),
+          m_across(m_length == 0.0 ? 0.0 : (from.y - to.y) / m_length),
+          m_radius(radius) {}
+
+    void addTo(Reach& reach, double y) const {
+        if (m_length == 0.0) {
+            return;
+        }
+        const double ux = m_along.slope;
+        const double uy = -m_across.slope;
+        Reach row{-HUGE_VAL, HUGE_VAL};
+        m_along.keep(row, (y - m_from.y) * uy - m_from.x * ux, 0.0, m_length);
+        m_across.keep(row, (y - m_from.y) * ux + m_from.x * uy, -m_radius, m_radius);
+        if (row.left <= row.right) {
+            reach.add(row.left, row.right);
+        }
     }
-    const double ux = (to.x - from.x) / length;
-    const double uy = (to.y - from.y) / length;
-    Reach bar{-HUGE_VAL, HUGE_VAL};
-    bar.keep(ux, (y - from.y) * uy - from.x * ux, 0.0, length);
-    bar.keep(-uy, (y - from.y) * ux + from.x * uy, -radius, radius);
-    if (bar.left <= bar.right) {
-        reach.add(bar.left, bar.right);
-    }
-}
+
+private:
+    PointD m_from;
+    double m_length;
+    Slope m_along;
+    Slope m_across;
+    double m_radius;
+};
 
 void fillReach(const PixelView& view, int y, const Reach& reach, std::uint32_t pixel) {
     // A place that should lie exactly on the edge counts as inside, whichever side its last bit fell on.
@@ -122,9 +147,9 @@ void fillReach(const PixelView& view, int y, const Reach& reach, std::uint32_t p
     if (reach.left > reach.right || reach.right < -1.0 || reach.left > view.width) {
         return;
     }
-    const double left = std::ceil(std::max(reach.left, 0.0) - kSlack);
-    const double right = std::floor(std::min<double>(reach.right, view.width) + kSlack);
-    fillSpan(view, y, static_cast<std::int64_t>(left), static_cast<std::int64_t>(right), pixel);
+    const std::int64_t left = ceilOf(std::max(reach.left, 0.0) - kSlack);
+    const std::int64_t right = floorOf(std::min<double>(reach.right, view.width) + kSlack);
+    fillSpan(view, y, left, right, pixel);
 }
 
 } // namespace
@@ -136,11 +161,25 @@ void strokeWide(const PixelView& view, PointD from, PointD to, Pen pen) {
     to = {to.x + lean, to.y + lean};
     const double top = std::max(std::ceil(std::min(from.y, to.y) - radius), 0.0);
     const double bottom = std::min(std::floor(std::max(from.y, to.y) + radius), view.height - 1.0);
+    const Bar bar(from, to, radius);
     for (double y = top; y <= bottom; y += 1.0) {
         Reach reach;
         addDisc(reach, from, radius, y);
         addDisc(reach, to, radius, y);
-        addBar(reach, from, to, radius, y);
+        bar.addTo(reach, y);
+        fillReach(view, static_cast<int>(y), reach, pen.pixel);
+    }
+}
+
+void strokeDisc(const PixelView& view, PointD at, Pen pen) {
+    const double lean = pen.width % 2 == 0 ? -0.5 : 0.0;
+    const double radius = std::max(pen.width, 1) / 2.0;
+    at = {at.x + lean, at.y + lean};
+    const double top = std::max(std::ceil(at.y - radius), 0.0);
+    const double bottom = std::min(std::floor(at.y + radius), view.height - 1.0);
+    for (double y = top; y <= bottom; y += 1.0) {
+        Reach reach;
+        addDisc(reach, at, radius, y);
         fillReach(view, static_cast<int>(y), reach, pen.pixel);
     }
 }
@@ -158,7 +197,7 @@ void strokeDot(const PixelView& view, PointI at, Pen pen) {
         setPixel(view, at.x, at.y, pen.pixel);
         return;
     }
-    strokeWide(view, {double(at.x), double(at.y)}, {double(at.x), double(at.y)}, pen);
+    strokeDisc(view, {double(at.x), double(at.y)}, pen);
 }
 
 } // namespace zeltrona::render

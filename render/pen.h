@@ -27,6 +27,9 @@ void strokeSegment(const PixelView& view, PointI from, PointI to, Pen pen);
 /// The wide stroke of strokeSegment between places that need not be whole.
 void strokeWide(const PixelView& view, PointD from, PointD to, Pen pen);
 
+/// The wide pen set down once, on a place that need not be whole.
+void strokeDisc(const PixelView& view, PointD at, Pen pen);
+
 /// A dot as wide as the pen.
 void strokeDot(const PixelView& view, PointI at, Pen pen);
 

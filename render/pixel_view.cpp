@@ -34,24 +34,6 @@ void fillAll(const PixelView& view, std::uint32_t pixel) {
     }
 }
 
-void setPixel(const PixelView& view, std::int64_t x, std::int64_t y, std::uint32_t pixel) {
-    if (view.contains(x, y)) {
-        view.row(y)[x] = pixel;
-    }
-}
-
-void fillSpan(const PixelView& view, std::int64_t y, std::int64_t left, std::int64_t right,
-              std::uint32_t pixel) {
-    if (y < 0 || y >= view.height) {
-        return;
-    }
-    left = std::max<std::int64_t>(left, 0);
-    right = std::min<std::int64_t>(right, view.width - 1);
-    if (left <= right) {
-        std::fill(view.row(y) + left, view.row(y) + right + 1, pixel);
-    }
-}
-
 void copyBlock(const PixelView& view, const ConstPixelView& source, BlockCopy block, RasterOp op) {
     clipAxis(block.x, block.sourceX, block.width, view.width, source.width);
     clipAxis(block.y, block.sourceY, block.height, view.height, source.height);
@@ -68,6 +50,24 @@ void copyBlock(const PixelView& view, const ConstPixelView& source, BlockCopy bl
     for (std::int64_t row = 0; row < block.height; ++row) {
         rasterRun(op, view.row(block.y + row) + block.x, source.row(block.sourceY + row) + block.sourceX,
                   width);
+    }
+}
+
+void paintSprite(const PixelView& view, std::int64_t x, std::int64_t y, const SpriteShapes& sprite) {
+    BlockCopy block{x, y, sprite.mask.width, sprite.mask.height};
+    clipAxis(block.x, block.sourceX, block.width, view.width, sprite.mask.width);
+    clipAxis(block.y, block.sourceY, block.height, view.height, sprite.mask.height);
+    if (block.width <= 0) {
+        return;
+    }
+    for (std::int64_t row = 0; row < block.height; ++row) {
+        const auto from = [&block, row](const ConstPixelView& shape) {
+            return shape.row(block.sourceY + row) + block.sourceX;
+        };
+        spriteRun(
+            view.row(block.y + row) + block.x,
+            {from(sprite.lower), from(sprite.upper), from(sprite.mask), sprite.lowerPixel, sprite.upperPixel},
+            static_cast<std::size_t>(block.width));
     }
 }
 

@@ -8,27 +8,7 @@ namespace zeltrona::render {
 
 namespace {
 
-constexpr int kCell = 50;
 constexpr int kMiddle = 25;
-
-void copyWhole(BoardSurface& dest, const QImage& source, RasterOp op) {
-    dest.bitBlt(0, 0, kCell, kCell, source, 0, 0, op);
-}
-
-/// Leaves on work.color the colour where the shape is, black elsewhere.
-void cutColor(WorkingSurfaces& work, const QImage& shape, Color color) {
-    copyWhole(work.shape, shape, RasterOp::SrcCopy);
-    copyWhole(work.shape, {}, RasterOp::DstInvert);
-    work.color.setBackColor(color);
-    copyWhole(work.color, work.shape.image(), RasterOp::SrcAnd);
-}
-
-/// Puts the shape on the sprite in its colour.
-void addPart(WorkingSurfaces& work, const QImage& shape, Color color) {
-    cutColor(work, shape, color);
-    copyWhole(work.sprite, shape, RasterOp::SrcAnd);
-    copyWhole(work.sprite, work.color.image(), RasterOp::SrcPaint);
-}
 
 } // namespace
 
@@ -39,11 +19,9 @@ std::int16_t drawBodyC(BoardSurface& dest, WorkingSurfaces& work, const BodyShap
         return 0;
     }
     const int quarters = -angle / 90;
-    work.sprite.setBackColor(0);
-    addPart(work, work.turns.of(shapes.skin, quarters), skinColor);
-    addPart(work, work.turns.of(shapes.shirt, quarters), teamColor);
-    dest.bitBlt(x, y, kCell, kCell, work.turns.of(shapes.mask, quarters), 0, 0, RasterOp::SrcAnd);
-    dest.bitBlt(x, y, kCell, kCell, work.sprite.image(), 0, 0, RasterOp::SrcPaint);
+    dest.paintSprite(x, y, {work.turns.of(shapes.skin, quarters), skinColor},
+                     {work.turns.of(shapes.shirt, quarters), teamColor},
+                     work.turns.of(shapes.mask, quarters));
     printLabel(dest, text, textColor, {x + kMiddle, y + kMiddle});
     return 1;
 }

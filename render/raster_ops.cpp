@@ -28,4 +28,13 @@ void rasterRun(RasterOp op, std::uint32_t* dest, const std::uint32_t* source, st
     }
 }
 
+void spriteRun(std::uint32_t* dest, const SpriteRun& sprite, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::uint32_t upper = sprite.upper[i];
+        const std::uint32_t colors =
+            (sprite.lowerPixel & ~sprite.lower[i] & upper) | (sprite.upperPixel & ~upper);
+        dest[i] = (dest[i] & sprite.mask[i]) | colors | kOpaque;
+    }
+}
+
 } // namespace zeltrona::render

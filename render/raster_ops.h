@@ -37,4 +37,18 @@ constexpr std::uint32_t applyRasterOp(RasterOp op, std::uint32_t dest, std::uint
 /// The operation on `count` neighbouring pixels. The two runs either are the same or do not overlap.
 void rasterRun(RasterOp op, std::uint32_t* dest, const std::uint32_t* source, std::size_t count);
 
+/// A sprite of two shapes in their colours, cut out by a mask: black on white, three runs of one length.
+struct SpriteRun {
+    const std::uint32_t* lower = nullptr; ///< covered by `upper` where both are black
+    const std::uint32_t* upper = nullptr;
+    const std::uint32_t* mask = nullptr;
+    std::uint32_t lowerPixel = 0;
+    std::uint32_t upperPixel = 0;
+};
+
+/// Puts the sprite on `count` neighbouring pixels: its colours cut by their inverted shapes onto black, the
+/// upper over the lower, then SrcAnd with the mask and SrcPaint with the sprite. Reason: step by step this
+/// takes fifteen walks over the pixels of each body, and one gives the same bits.
+void spriteRun(std::uint32_t* dest, const SpriteRun& sprite, std::size_t count);
+
 } // namespace zeltrona::render

@@ -15,12 +15,9 @@ struct WorkingSurfaces {
     WorkingSurfaces(WorkingSurfaces&&) = default;
     WorkingSurfaces& operator=(WorkingSurfaces&&) = default;
 
-    BoardSurface pMask{26, 26};  ///< mask of a circle player or a ball
-    BoardSurface p{26, 26};      ///< colours of a circle player
-    BoardSurface sprite{50, 50}; ///< a body as it is put together
-    BoardSurface color{50, 50};  ///< one colour of a body, cut to its shape
-    BoardSurface shape{50, 50};  ///< copy of a shape, to be inverted
-    QuarterTurns turns;          ///< shapes of bodies as turned lately
+    BoardSurface pMask{26, 26}; ///< mask of a circle player or a ball
+    BoardSurface p{26, 26};     ///< colours of a circle player
+    QuarterTurns turns;         ///< shapes of bodies as turned lately
 };
 
 } // namespace zeltrona::render

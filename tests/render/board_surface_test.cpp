@@ -249,6 +249,18 @@ TEST(BoardSurface, CopyBeyondItsEdgesIsCut) {
     EXPECT_EQ(countOf(surface, kRed), 36);
 }
 
+TEST(BoardSurface, SpriteOfShapesThatDifferInSizePaintsNothing) {
+    BoardSurface pic(4, 4);
+    QImage small(2, 2, QImage::Format_RGB32);
+    QImage large(3, 3, QImage::Format_RGB32);
+    small.fill(Qt::black);
+    large.fill(Qt::black);
+    pic.paintSprite(0, 0, {small, 255}, {large, 255}, large);
+    EXPECT_EQ(pic.point(0, 0), 0xFFFFFF);
+    pic.paintSprite(0, 0, {large, 255}, {large, 128}, large);
+    EXPECT_EQ(pic.point(0, 0), 128);
+}
+
 TEST(BoardSurface, StateKeeperPutsBackWhatWasChanged) {
     BoardSurface surface(10, 10);
     const DrawingState before = surface.state;

@@ -1,6 +1,8 @@
 #include "render/pixel_view.h"
 #include "tests/render/canvas.h"
 
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -102,6 +104,32 @@ TEST(CopyBlock, FarPlacesAndEmptySizesCopyNothing) {
         copyBlock(dest.view(), source.source(), block, RasterOp::SrcCopy);
     }
     EXPECT_EQ(dest.text(), Canvas(6, 5).text());
+}
+
+TEST(WholeNumbers, AreThoseOfTheLibrary) {
+    for (const double value :
+         {0.0, 0.4, 0.5, 1.0, 2.999999, -0.1, -0.5, -1.0, -2.000001, 1e9 + 0.5, -1e12 - 0.5}) {
+        EXPECT_EQ(static_cast<double>(floorOf(value)), std::floor(value));
+        EXPECT_EQ(static_cast<double>(ceilOf(value)), std::ceil(value));
+    }
+}
+
+TEST(PaintSprite, ShowsWhatLiesInTheViewAtEveryPlace) {
+    Canvas shape(2, 2);
+    fillAll(shape.view(), Canvas::kBlack);
+    const SpriteShapes sprite{shape.source(), shape.source(), shape.source(), Canvas::kBlack, Canvas::kBlack};
+    for (int y = -3; y <= 5; ++y) {
+        for (int x = -3; x <= 5; ++x) {
+            Canvas canvas(4, 4, 1);
+            paintSprite(canvas.view(), x, y, sprite);
+            const int columns = std::max(0, std::min(x + 2, 4) - std::max(x, 0));
+            const int rows = std::max(0, std::min(y + 2, 4) - std::max(y, 0));
+            EXPECT_EQ(canvas.count(), columns * rows) << x << ", " << y;
+        }
+    }
+    Canvas canvas(4, 4);
+    paintSprite(canvas.view(), kFar, -kFar, sprite);
+    EXPECT_EQ(canvas.count(), 0);
 }
 
 } // namespace

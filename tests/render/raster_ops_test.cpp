@@ -85,5 +85,39 @@ TEST(RasterOps, ARunEqualsItsPixelsAtEveryLengthAndTouchesNoOther) {
     }
 }
 
+/// A body as it is put together step by step, one raster operation after the other.
+std::uint32_t stepByStep(std::uint32_t dest, std::uint32_t lower, std::uint32_t upper, std::uint32_t mask,
+                         const SpriteRun& colors) {
+    std::uint32_t sprite = kOpaque;
+    for (const auto& [shape, color] :
+         {std::pair{lower, colors.lowerPixel}, std::pair{upper, colors.upperPixel}}) {
+        const std::uint32_t inverted = applyRasterOp(RasterOp::DstInvert, shape, 0);
+        const std::uint32_t cut = applyRasterOp(RasterOp::SrcAnd, color, inverted);
+        sprite = applyRasterOp(RasterOp::SrcAnd, sprite, shape);
+        sprite = applyRasterOp(RasterOp::SrcPaint, sprite, cut);
+    }
+    dest = applyRasterOp(RasterOp::SrcAnd, dest, mask);
+    return applyRasterOp(RasterOp::SrcPaint, dest, sprite);
+}
+
+TEST(SpriteRun, LeavesTheBitsOfTheSingleSteps) {
+    const std::array<std::uint32_t, 4> words{0xFF000000U, 0xFFFFFFFFU, 0xFF5A3CF0U, 0xFF0F00C3U};
+    SpriteRun run{nullptr, nullptr, nullptr, 0xFF99CCFFU, 0xFF2040C0U};
+    for (const std::uint32_t dest : words) {
+        for (const std::uint32_t lower : words) {
+            for (const std::uint32_t upper : words) {
+                for (const std::uint32_t mask : words) {
+                    std::uint32_t got = dest;
+                    run.lower = &lower;
+                    run.upper = &upper;
+                    run.mask = &mask;
+                    spriteRun(&got, run, 1);
+                    EXPECT_EQ(got, stepByStep(dest, lower, upper, mask, run));
+                }
+            }
+        }
+    }
+}
+
 } // namespace
 } // namespace zeltrona::render
