@@ -27,31 +27,31 @@ std::optional<PointF> parsePosition(std::string_view value) {
     return PointF{toSingle(*x), toSingle(*y)};
 }
 
-/// Fills `player` from a slot; false when the slot gives none, and then a usable position has filled it all
-/// the same.
-bool readSlot(const PlayFile& play, const std::string& section, const std::string& slot, PlayerRec& player) {
-    const std::optional<PointF> position = parsePosition(readText(play, section, slot, TextBuffer::Slot));
+} // namespace
+
+bool readSlot(const PlayFile& play, std::int16_t frame, std::string_view side, std::size_t slot,
+              PlayerRec& player) {
+    const std::string section = frameSection(frame);
+    const std::string key = indexedKey(side, slot);
+    const std::optional<PointF> position = parsePosition(readText(play, section, key, TextBuffer::Slot));
     if (!position) {
         return false;
     }
     player.x = position->x;
     player.y = position->y;
-    player.skin = play.readInt(kConfigSection, "skin" + slot, 0);
-    player.body = static_cast<std::int16_t>(play.readInt(section, "body" + slot, 0));
-    player.angle = static_cast<std::int16_t>(play.readInt(section, "angle" + slot, 0));
-    player.txt = readText(play, kConfigSection, "txt" + slot, TextBuffer::Slot);
+    player.skin = play.readInt(kConfigSection, "skin" + key, 0);
+    player.body = static_cast<std::int16_t>(play.readInt(section, "body" + key, 0));
+    player.angle = static_cast<std::int16_t>(play.readInt(section, "angle" + key, 0));
+    player.txt = readText(play, kConfigSection, "txt" + key, TextBuffer::Slot);
     return !player.txt.empty();
 }
-
-} // namespace
 
 void readSidePlayers(const PlayFile& play, std::int16_t frame, std::string_view side, PlayerRec& scratch,
                      std::vector<PlayerRec>& dest) {
     const ReadScope scope(play);
-    const std::string section = frameSection(frame);
     bool found = false;
     for (std::size_t slot = 0; slot < kSlotCount; ++slot) {
-        if (!readSlot(play, section, indexedKey(side, slot), scratch)) {
+        if (!readSlot(play, frame, side, slot, scratch)) {
             continue;
         }
         if (!found) {
