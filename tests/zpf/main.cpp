@@ -1,4 +1,5 @@
 #include "assets/resources.h"
+#include "platform/program_fonts.h"
 
 #include <QGuiApplication>
 
@@ -9,5 +10,6 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen"); // as the program itself does
     const QGuiApplication application(argc, argv);
     zeltrona::assets::initResources();
+    zeltrona::platform::useProgramFonts();
     return RUN_ALL_TESTS();
 }

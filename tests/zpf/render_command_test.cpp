@@ -1,11 +1,9 @@
 #include "render/board_art.h"
-#include "tests/zpf/program_run.h"
+#include "tests/zpf/command_fixture.h"
 #include "tools/zpf/play_desk.h"
 
 #include <QDir>
-#include <QFile>
 #include <QImage>
-#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,27 +14,12 @@ namespace {
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const char* kConfig = "[Config]\r\ncolorOff=255\r\ncolorOffFont=16777215\r\ntxtOff0=4\r\nline=2\r\n"
-                      "court=1\r\ncourtColor=16777215\r\n";
-const char* kFrames = "[Frame1]\r\nframe=1\r\noff0=100,200\r\n[Frame2]\r\nframe=2\r\noff0=200,100\r\n";
-
-class RenderCommand : public testing::Test {
+class RenderCommand : public CommandTest {
 protected:
-    QString path(const QString& name) const { return m_folder.filePath(name); }
-    QString write(const QString& name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return file.fileName();
-    }
-    QString writePlay(const QString& name) const { return write(name, QByteArray(kConfig) + kFrames); }
     QStringList pictures() const { return QDir(path("out")).entryList(QDir::Files, QDir::Name); }
     ProgramRun render(const QStringList& words) const {
         return ProgramRun(QStringList("render") + words + QStringList{"-o", path("out")});
     }
-
-private:
-    QTemporaryDir m_folder;
 };
 
 TEST_F(RenderCommand, DrawsEveryFrameOfEachPlay) {
@@ -50,12 +33,13 @@ TEST_F(RenderCommand, PictureIsTheBoardOfItsFrame) {
     const QString play = writePlay("horns.zpf");
     render({play});
     const render::BoardArt art = render::loadBoardArt();
-    PlayDesk desk(play, art);
-    const QImage first = desk.drawFrame(1).copy();
+    PlayDesk desk(play.toStdString(), art);
+    output::FrameWalker walker(desk.walk(), desk.frames());
+    const QImage first = walker.upTo(1).copy();
     EXPECT_EQ(first.size(), QSize(363, 332));
     EXPECT_EQ(QImage(path("out/horns-1.png")).convertToFormat(QImage::Format_RGB32), first);
     const QImage second = QImage(path("out/horns-2.png")).convertToFormat(QImage::Format_RGB32);
-    EXPECT_EQ(second, desk.drawFrame(2));
+    EXPECT_EQ(second, walker.upTo(2));
     EXPECT_NE(second, first);
     EXPECT_EQ(first.pixel(100 + 6, 200 + 8), qRgb(255, 0, 0)) << "the disc of the player";
 }
@@ -84,8 +68,8 @@ TEST_F(RenderCommand, ScaleRepeatsEachPixel) {
     const QString play = writePlay("horns.zpf");
     render({play, "-s", "3"});
     const render::BoardArt art = render::loadBoardArt();
-    PlayDesk desk(play, art);
-    const QImage board = desk.drawFrame(1);
+    PlayDesk desk(play.toStdString(), art);
+    const QImage board = output::FrameWalker(desk.walk(), desk.frames()).upTo(1);
     const QImage scaled(path("out/horns-1.png"));
     ASSERT_EQ(scaled.size(), board.size() * 3);
     for (int y = 0; y < scaled.height(); y += 7) {
@@ -95,14 +79,42 @@ TEST_F(RenderCommand, ScaleRepeatsEachPixel) {
     }
 }
 
+TEST_F(RenderCommand, DrawsTheFramesAskedFor) {
+    const QString play = writePlay("horns.zpf");
+    EXPECT_EQ(render({play, "--frames", "2-"}).code, ExitCode::Done);
+    EXPECT_EQ(pictures(), QStringList("horns-2.png"));
+    const ProgramRun run = render({play, "--frames", "7"});
+    EXPECT_EQ(run.code, ExitCode::Failed);
+    EXPECT_THAT(run.err, HasSubstr("has only 2 frames"));
+}
+
+TEST_F(RenderCommand, FrameBehindOthersKeepsTheirPlayers) {
+    const QByteArray text =
+        QByteArray(kConfig) + "[Frame1]\r\nframe=1\r\noff0=100,200\r\n[Frame2]\r\nframe=2\r\n";
+    const QString play = write("still.zpf", text);
+    render({play});
+    const QImage whole(path("out/still-2.png"));
+    render({play, "--frames", "2"});
+    EXPECT_EQ(QImage(path("out/still-2.png")), whole);
+}
+
+TEST_F(RenderCommand, WithoutAFolderPicturesGoWhereTheProgramStands) {
+    const QString play = writePlay("horns.zpf");
+    const QString stood = QDir::currentPath();
+    QDir::setCurrent(path("."));
+    EXPECT_EQ(ProgramRun({"render", play}).code, ExitCode::Done);
+    QDir::setCurrent(stood);
+    EXPECT_TRUE(QFile::exists(path("horns-1.png")));
+}
+
 TEST_F(RenderCommand, FailedPlaysAreToldAndTheOthersGoOn) {
     const QString good = writePlay("good.zpf");
     const QString empty = write("empty.zpf", {});
     QDir().mkpath(path("folder.zpf"));
     const ProgramRun run = render({path("missing.zpf"), path("folder.zpf"), empty, good});
     EXPECT_EQ(run.code, ExitCode::Failed);
-    EXPECT_THAT(run.err, HasSubstr("missing.zpf: no such file"));
-    EXPECT_THAT(run.err, HasSubstr("folder.zpf: is no file"));
+    EXPECT_THAT(run.err, HasSubstr("missing.zpf: No such file"));
+    EXPECT_THAT(run.err, HasSubstr("folder.zpf: Is a directory"));
     EXPECT_THAT(run.err, HasSubstr("empty.zpf: holds no frame"));
     EXPECT_EQ(pictures(), QStringList({"good-1.png", "good-2.png"}));
 }
@@ -141,12 +153,12 @@ TEST_F(RenderCommand, SenselessWishesDrawNothing) {
     const QString play = writePlay("horns.zpf");
     for (const QStringList& words :
          {QStringList{}, QStringList{play, "-f", "gif"}, QStringList{play, "-s", "0"},
-          QStringList{play, "-s", "9"}, QStringList{play, "-s", "two"}, QStringList{play, "--dance"}}) {
+          QStringList{play, "-s", "9"}, QStringList{play, "-s", "two"}, QStringList{play, "--dance"},
+          QStringList{play, "-n", "2-1"}}) {
         const ProgramRun run = render(words);
         EXPECT_EQ(run.code, ExitCode::Usage) << words.join(' ').toStdString();
-        EXPECT_THAT(run.err, HasSubstr("Usage: zpf render"));
+        EXPECT_THAT(run.err, HasSubstr("zpf render --help"));
     }
-    EXPECT_EQ(ProgramRun({"render", play}).code, ExitCode::Usage) << "no folder";
     EXPECT_THAT(pictures(), IsEmpty());
 }
 

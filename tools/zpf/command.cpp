@@ -1,6 +1,7 @@
 #include "tools/zpf/command.h"
 
-#include "tools/zpf/render_command.h"
+#include "tools/zpf/commands.h"
+#include "tools/zpf/play_facts.h"
 
 #include <algorithm>
 #include <array>
@@ -11,43 +12,85 @@ namespace zeltrona::zpf {
 
 namespace {
 
-constexpr std::array<Command, 1> kCommands{{{"render", "draw every frame of plays to pictures", runRender}}};
+std::array<Command, 5> allCommands() {
+    return {infoCommand(), checkCommand(), renderCommand(), reportCommand(), printCommand()};
+}
 
 void printHelp(std::ostream& to) {
-    to << "Usage: zpf COMMAND [OPTION]...\n"
+    to << "Usage: zpf COMMAND [OPTION...] PLAY...\n"
           "Works on basketball plays without opening a window.\n\n"
           "Commands:\n";
-    for (const Command& command : kCommands) {
-        to << "  " << std::left << std::setw(10) << command.name << command.summary << '\n';
+    for (const Command& command : allCommands()) {
+        const std::string_view summary = command.spec.summary;
+        to << "  " << std::left << std::setw(10) << command.spec.name << summary.substr(0, summary.find('\n'))
+           << '\n';
     }
-    to << "\n\"zpf COMMAND --help\" tells about one.\n"
-          "Exit status: 0 done, 1 something failed, 2 the command line makes no sense.\n";
+    to << "\nOptions:\n"
+          "  -h, --help      show this help and end; \"zpf COMMAND --help\" tells about one command\n"
+          "      --version   show the version and end\n"
+          "\nExit status: 0 done, 1 \"check\" has found something, 2 the command line makes no sense,\n"
+          "3 a play could not be read or a result not be written.\n";
+}
+
+ExitCode runCommand(const Command& command, std::span<const std::string_view> words, Streams streams) {
+    const Arguments arguments = parseArguments(command.spec, words);
+    if (arguments.has("help")) {
+        streams.out << helpText(command.spec);
+        return ExitCode::Done;
+    }
+    if (!arguments.fault.empty()) {
+        return usageFault(command.spec, streams, arguments.fault);
+    }
+    if (arguments.operands.empty()) {
+        return usageFault(command.spec, streams, "no play is named");
+    }
+    return command.run(arguments, streams);
 }
 
 } // namespace
 
-ExitCode runCommandLine(const QStringList& words, Streams streams) {
-    if (words.isEmpty()) {
+ExitCode usageFault(const CommandSpec& spec, Streams streams, std::string_view fault) {
+    streams.err << "zpf " << spec.name << ": " << fault << "\nTry \"zpf " << spec.name << " --help\".\n";
+    return ExitCode::Usage;
+}
+
+ExitCode forEachPlay(const CommandSpec& spec, const Arguments& arguments, Streams streams,
+                     const std::function<std::string(const std::string& path)>& work) {
+    ExitCode code = ExitCode::Done;
+    for (const std::string& path : arguments.operands) {
+        std::string reason = playFault(path);
+        if (reason.empty()) {
+            reason = work(path);
+        }
+        if (!reason.empty()) {
+            streams.err << "zpf " << spec.name << ": " << path << ": " << reason << '\n';
+            code = ExitCode::Failed;
+        }
+    }
+    return code;
+}
+
+ExitCode runCommandLine(std::span<const std::string_view> words, Streams streams) {
+    if (words.empty()) {
         printHelp(streams.err);
         return ExitCode::Usage;
     }
-    const QString& name = words.first();
-    if (name == QLatin1String("--help") || name == QLatin1String("-h") || name == QLatin1String("help")) {
+    const std::string_view name = words.front();
+    if (name == "--help" || name == "-h" || name == "help") {
         printHelp(streams.out);
         return ExitCode::Done;
     }
-    if (name == QLatin1String("--version")) {
+    if (name == "--version") {
         streams.out << "zpf " ZELTRONA_VERSION "\n";
         return ExitCode::Done;
     }
-    const auto* found = std::find_if(kCommands.begin(), kCommands.end(), [&](const Command& command) {
-        return name == QLatin1String(command.name);
-    });
-    if (found == kCommands.end()) {
-        streams.err << "zpf: there is no command \"" << name.toStdString() << "\"; see zpf --help\n";
-        return ExitCode::Usage;
+    for (const Command& command : allCommands()) {
+        if (name == command.spec.name) {
+            return runCommand(command, words.subspan(1), streams);
+        }
     }
-    return found->run(words.mid(1), streams);
+    streams.err << "zpf: there is no command \"" << name << "\"; see \"zpf --help\"\n";
+    return ExitCode::Usage;
 }
 
 } // namespace zeltrona::zpf

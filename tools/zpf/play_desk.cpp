@@ -1,41 +1,21 @@
 #include "tools/zpf/play_desk.h"
 
 #include "document/frame_store.h"
-
-#include <QFile>
-#include <QFileInfo>
+#include "tools/zpf/play_facts.h"
 
 namespace zeltrona::zpf {
 
-PlayDesk::PlayDesk(const QString& path, const render::BoardArt& art)
-    : m_play(QFile::encodeName(path).toStdString()), m_board{m_pic, art, [this](const char* text) {
-                                                                 m_errors.emplace_back(text);
-                                                             }} {
+PlayDesk::PlayDesk(const std::string& path, const render::BoardArt& art)
+    : m_play(path),
+      m_board{m_pic, art, [this](const char* text) { m_errors.emplace_back(text); }},
+      m_walk{m_play, m_session, m_records, m_board} {
     m_session.playFilePath = m_play.path();
-    std::string fontName = "Arial";
-    document::readFontConfig(m_play, fontName, m_session.fontCharset);
+    m_session.fontCharset = charsetOf(m_play);
     document::loadConfig(m_play, m_session, m_records);
     const QSize size = render::boardSizeOf(m_session.court);
     m_pic.resize(size.width(), size.height());
-    m_frames = document::countFrames(m_play);
-}
-
-const QImage& PlayDesk::drawFrame(std::int16_t frame) {
-    output::FrameWalk walk{m_play, m_session, m_records, m_board};
-    output::prepareFramePicture(walk, frame);
-    return m_pic.image();
-}
-
-QString playFault(const QString& path) {
-    const QFileInfo info(path);
-    if (!info.exists()) {
-        return QStringLiteral("no such file");
-    }
-    if (!info.isFile()) {
-        return QStringLiteral("is no file");
-    }
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
+    m_pic.state.font.charset = m_session.fontCharset;
+    m_frames = reachableFrames(m_play);
 }
 
 } // namespace zeltrona::zpf

@@ -6,8 +6,6 @@
 #include "output/frame_walk.h"
 #include "render/redraw.h"
 
-#include <QString>
-
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -17,12 +15,12 @@ namespace zeltrona::zpf {
 /// A play laid out as the main window would: its set-up loaded, a board of its court's size, at no frame yet.
 class PlayDesk {
 public:
-    PlayDesk(const QString& path, const render::BoardArt& art);
+    PlayDesk(const std::string& path, const render::BoardArt& art);
 
+    /// Frames that can be reached.
     std::int16_t frames() const { return m_frames; }
-    /// The finished board of a frame. Ask in rising order: a frame without players of a side shows those of
-    /// the frame before.
-    const QImage& drawFrame(std::int16_t frame);
+    /// What every output borrows of the main window.
+    output::FrameWalk& walk() { return m_walk; }
     /// Drawings that failed so far, in words.
     const std::vector<std::string>& errors() const { return m_errors; }
 
@@ -32,11 +30,9 @@ private:
     document::FrameRecords m_records;
     render::BoardSurface m_pic;
     render::Board m_board;
+    output::FrameWalk m_walk;
     std::vector<std::string> m_errors;
     std::int16_t m_frames = 0;
 };
-
-/// Why the play cannot be worked on, in words without its name; empty when it can.
-QString playFault(const QString& path);
 
 } // namespace zeltrona::zpf

@@ -1,126 +1,131 @@
-#include "tools/zpf/render_command.h"
-
+#include "output/board_picture.h"
+#include "tools/zpf/commands.h"
+#include "tools/zpf/number_ranges.h"
+#include "tools/zpf/output_target.h"
 #include "tools/zpf/play_desk.h"
+#include "tools/zpf/progress_line.h"
 
-#include <QCommandLineParser>
 #include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <QImageWriter>
-#include <QSet>
+#include <QSaveFile>
 
-#include <ostream>
+#include <array>
+#include <limits>
 
 namespace zeltrona::zpf {
 
 namespace {
 
-constexpr const char* kUsage =
-    "Usage: zpf render PLAY... -o FOLDER [-f png|bmp] [-s SCALE]\n"
-    "Draws every frame of each play, as the board shows it, to FOLDER/<play>-<n>.png.\n\n"
-    "  -o, --output FOLDER   where the pictures go; it is made when it is not there\n"
-    "  -f, --format FORMAT   png (the default) or bmp\n"
-    "  -s, --scale SCALE     1 (the default) to 8: pixels of the picture to one of the board\n"
-    "  -h, --help            this help\n";
+constexpr int kMostScale = 8;
+constexpr std::array kOptions{
+    OptionSpec{'o', "output", "FOLDER", "where the pictures go, . when not given; it is made if need be"},
+    OptionSpec{'f', "format", "FORMAT", "png (the default) or bmp"},
+    OptionSpec{'s', "scale", "SCALE", "1 (the default) to 8: pixels of the picture to one of the board"},
+    OptionSpec{'n', "frames", "RANGE", "frames to draw, as 2, 1-3, 4- or 1-2,5; all when not given"},
+};
+constexpr CommandSpec kSpec{"render", "PLAY...",
+                            "Draw frames of plays to pictures, as the board shows them\n"
+                            "Writes FOLDER/NAME-FRAME.png, over what is there.",
+                            kOptions};
 
 struct RenderWishes {
-    QStringList plays;
     QDir folder;
-    QString format;
+    std::string format;
     int scale = 1;
+    std::string frames; ///< as parseRanges takes it
 };
 
-/// Complaints are whole sentences without the program's name; empty when the wishes are good.
-QString readWishes(const QStringList& words, RenderWishes& wishes, bool& help) {
-    QCommandLineParser parser;
-    const QCommandLineOption output({"o", "output"}, {}, "folder");
-    const QCommandLineOption format({"f", "format"}, {}, "format", "png");
-    const QCommandLineOption scale({"s", "scale"}, {}, "scale", "1");
-    const QCommandLineOption helpWish(QStringList{"h", "help"});
-    parser.addOptions({output, format, scale, helpWish});
-    const bool parsed = parser.parse(QStringList("zpf render") + words);
-    help = parser.isSet(helpWish);
-    if (!parsed) {
-        return parser.errorText();
+/// A complaint about the wishes; empty when they make sense.
+std::string readWishes(const Arguments& arguments, RenderWishes& wishes) {
+    const auto scale = parseNumber(arguments.valueOf("scale", "1"), 1, kMostScale);
+    wishes.format = QString::fromStdString(arguments.valueOf("format", "png")).toLower().toStdString();
+    wishes.frames = arguments.valueOf("frames", "1-");
+    if (!scale) {
+        return "the scale is a whole number from 1 to 8";
     }
-    wishes.plays = parser.positionalArguments();
-    wishes.format = parser.value(format).toLower();
-    wishes.scale = parser.value(scale).toInt();
-    wishes.folder = QDir(parser.value(output));
-    if (wishes.plays.isEmpty()) {
-        return QStringLiteral("No play is named.");
+    if (wishes.format != "png" && wishes.format != "bmp") {
+        return "the format is png or bmp";
     }
-    if (parser.value(output).isEmpty()) {
-        return QStringLiteral("No folder is named; give one with -o.");
+    if (!parseRanges(wishes.frames, 1)) {
+        return "\"" + wishes.frames + "\" names no frames";
     }
-    if (wishes.format != QLatin1String("png") && wishes.format != QLatin1String("bmp")) {
-        return QStringLiteral("The format is png or bmp.");
-    }
-    const bool scaleIsGood = wishes.scale >= 1 && wishes.scale <= 8;
-    return scaleIsGood ? QString() : QStringLiteral("The scale is a whole number from 1 to 8.");
+    wishes.scale = *scale;
+    return {};
 }
 
-/// Writes one picture; gives the reason of a failure.
-QString savePicture(const QImage& picture, const RenderWishes& wishes, const QString& path) {
-    QImageWriter writer(path, wishes.format.toLatin1());
-    const QImage scaled = wishes.scale == 1 ? picture : picture.scaled(picture.size() * wishes.scale);
-    return writer.write(scaled) ? QString() : writer.errorString();
+/// Writes one picture whole or not at all; gives the reason of a failure.
+std::string savePicture(const QImage& board, const RenderWishes& wishes, const QString& path) {
+    const QImage picture = wishes.scale == 1 ? board : board.scaled(board.size() * wishes.scale);
+    if (wishes.format == "bmp") {
+        return output::saveBitmap(picture, path) ? "" : "cannot be written";
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return file.errorString().toStdString();
+    }
+    QImageWriter writer(&file, "png");
+    if (!writer.write(picture)) {
+        return writer.errorString().toStdString();
+    }
+    return file.commit() ? "" : file.errorString().toStdString();
 }
 
 /// Draws one play; gives the reason of a failure.
-QString renderPlay(const QString& path, const RenderWishes& wishes, const render::BoardArt& art) {
-    const QString fault = playFault(path);
-    if (!fault.isEmpty()) {
-        return fault;
-    }
-    PlayDesk desk(path, art);
-    if (desk.frames() < 1) {
-        return QStringLiteral("holds no frame");
-    }
-    const QString base = QFileInfo(path).completeBaseName();
+std::string renderPlay(PlayDesk& desk, const QString& base, const RenderWishes& wishes) {
+    const auto ranges = *parseRanges(wishes.frames, desk.frames());
+    output::FrameWalker walker(desk.walk(), desk.frames());
+    bool drawn = false;
     for (std::int16_t frame = 1; frame <= desk.frames(); ++frame) {
-        const QString name = QStringLiteral("%1-%2.%3").arg(base).arg(frame).arg(wishes.format);
-        const QString target = wishes.folder.filePath(name);
-        const QString reason = savePicture(desk.drawFrame(frame), wishes, target);
-        if (!reason.isEmpty()) {
-            return QStringLiteral("%1: %2").arg(target, reason);
+        if (!contains(ranges, frame)) {
+            continue;
         }
+        const QString name =
+            QStringLiteral("%1-%2.%3").arg(base).arg(frame).arg(QString::fromStdString(wishes.format));
+        const QString target = wishes.folder.filePath(name);
+        if (const std::string reason = savePicture(walker.upTo(frame), wishes, target); !reason.empty()) {
+            return QFile::encodeName(target).toStdString() + ": " + reason;
+        }
+        drawn = true;
     }
-    return desk.errors().empty() ? QString() : QString::fromStdString(desk.errors().front());
+    if (!drawn) {
+        return "has only " + std::to_string(desk.frames()) + " frames";
+    }
+    return desk.errors().empty() ? std::string() : desk.errors().front();
+}
+
+ExitCode run(const Arguments& arguments, Streams streams) {
+    RenderWishes wishes;
+    OutputTarget target(arguments, {});
+    const std::string fault = readWishes(arguments, wishes);
+    if (!fault.empty() || !target.fault().empty()) {
+        return usageFault(kSpec, streams, fault.empty() ? target.fault() : fault);
+    }
+    wishes.folder = QDir(target.name());
+    if (const std::string reason = OutputTarget::makeFolder(target.name()); !reason.empty()) {
+        streams.err << "zpf render: " << reason << '\n';
+        return ExitCode::Failed;
+    }
+    const render::BoardArt art = render::loadBoardArt();
+    ProgressLine progress(streams);
+    return forEachPlay(kSpec, arguments, streams, [&](const std::string& path) -> std::string {
+        const QString play = QFile::decodeName(path.c_str());
+        PlayDesk desk(path, art);
+        if (desk.frames() < 1) {
+            return "holds no frame";
+        }
+        if (std::string reason = target.claim(play); !reason.empty()) {
+            return reason;
+        }
+        desk.walk().progress = [&](int frame, int frames) { progress.show(path, frame, frames); };
+        return renderPlay(desk, OutputTarget::baseOf(play), wishes);
+    });
 }
 
 } // namespace
 
-ExitCode runRender(const QStringList& words, Streams streams) {
-    RenderWishes wishes;
-    bool help = false;
-    const QString complaint = readWishes(words, wishes, help);
-    if (help) {
-        streams.out << kUsage;
-        return ExitCode::Done;
-    }
-    if (!complaint.isEmpty()) {
-        streams.err << "zpf render: " << complaint.toStdString() << '\n' << kUsage;
-        return ExitCode::Usage;
-    }
-    if (!QDir().mkpath(wishes.folder.path())) {
-        streams.err << "zpf render: cannot make the folder " << wishes.folder.path().toStdString() << '\n';
-        return ExitCode::Failed;
-    }
-    const render::BoardArt art = render::loadBoardArt();
-    ExitCode code = ExitCode::Done;
-    QSet<QString> done;
-    for (const QString& play : wishes.plays) {
-        const QString base = QFileInfo(play).completeBaseName();
-        const QString reason = done.contains(base)
-                                   ? QStringLiteral("another play of this name was drawn before it")
-                                   : renderPlay(play, wishes, art);
-        done.insert(base);
-        if (!reason.isEmpty()) {
-            streams.err << "zpf render: " << play.toStdString() << ": " << reason.toStdString() << '\n';
-            code = ExitCode::Failed;
-        }
-    }
-    return code;
+Command renderCommand() {
+    return {kSpec, run};
 }
 
 } // namespace zeltrona::zpf

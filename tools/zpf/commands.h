@@ -1,0 +1,19 @@
+#pragma once
+
+#include "tools/zpf/command.h"
+
+namespace zeltrona::zpf {
+
+/// What each play is about.
+Command infoCommand();
+/// Everything in the plays that would be lost, cut or ignored at load. Ends with ExitCode::Found when there
+/// is any.
+Command checkCommand();
+/// One picture a frame, FOLDER/<play>-<n>.png, over what is there.
+Command renderCommand();
+/// The web report of each play, FOLDER/<play>/index.html with its pictures beside it.
+Command reportCommand();
+/// The printed pages of each play, FOLDER/<play>.pdf.
+Command printCommand();
+
+} // namespace zeltrona::zpf
