@@ -94,6 +94,10 @@ void OpenPlay::writeBytes(const std::string& bytes) const {
     file.write(bytes.data(), static_cast<qint64>(bytes.size()));
 }
 
+std::string OpenPlay::key(const std::string& section, const std::string& name) const {
+    return document::PlayFile(session::toPath(path())).readWhole(section, name, "(none)");
+}
+
 std::string OpenPlay::txtSeq() {
     return control<QLineEdit>(*m_window, QStringLiteral("txtSeq")).text().toStdString();
 }
@@ -103,10 +107,22 @@ std::string OpenPlay::status() {
 }
 
 QImage OpenPlay::board() {
-    return control<QWidget>(*m_window, QStringLiteral("pic"))
-        .grab()
-        .toImage()
-        .convertToFormat(QImage::Format_RGB32);
+    return pic().grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+QWidget& OpenPlay::pic() {
+    return control<QWidget>(*m_window, QStringLiteral("pic"));
+}
+
+void OpenPlay::pickTool(int index) {
+    click(*m_window, QStringLiteral("Picture1_%1").arg(index));
+}
+
+std::string OpenPlay::tag(int tool) {
+    return control<QWidget>(*m_window, QStringLiteral("Picture1_%1").arg(tool))
+        .property("Tag")
+        .toString()
+        .toStdString();
 }
 
 } // namespace zeltrona::testing

@@ -42,10 +42,17 @@ public:
     std::string bytes() const;
     void writeBytes(const std::string& bytes) const;
 
+    /// A key of the play as it stands in the file, or "(none)".
+    std::string key(const std::string& section, const std::string& name) const;
+
     /// Text of the counter, of the message line, and the board's picture as the user sees it.
     std::string txtSeq();
     std::string status();
     QImage board();
+    QWidget& pic();
+    /// Clicks the button of a tool.
+    void pickTool(int index);
+    std::string tag(int tool);
 
 private:
     QTemporaryDir m_folder;

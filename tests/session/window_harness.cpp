@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -27,6 +29,12 @@ template<class T> T* dialogOf(QWidget& window, const char* what) {
         window.close();
     }
     return dialog;
+}
+
+void sendMouse(QWidget& target, QEvent::Type type, QPointF place, Qt::MouseButton button,
+               Qt::MouseButtons held, Qt::KeyboardModifiers modifiers) {
+    QMouseEvent event(type, place, target.mapToGlobal(place), button, held, modifiers);
+    QApplication::sendEvent(&target, &event);
 }
 
 QPushButton* buttonOf(QMessageBox& box, const QString& name) {
@@ -95,6 +103,26 @@ void typeInto(QObject& window, const QString& name, const QString& text) {
     QTest::keyClicks(&edit, text);
 }
 
+void pressAt(QWidget& target, QPointF place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+    sendMouse(target, QEvent::MouseButtonPress, place, button, button, modifiers);
+}
+
+void moveTo(QWidget& target, QPointF place, Qt::MouseButtons held, Qt::KeyboardModifiers modifiers) {
+    sendMouse(target, QEvent::MouseMove, place, Qt::NoButton, held, modifiers);
+}
+
+void releaseAt(QWidget& target, QPointF place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+    sendMouse(target, QEvent::MouseButtonRelease, place, button, Qt::NoButton, modifiers);
+}
+
+void drag(QWidget& target, const QList<QPointF>& places, Qt::KeyboardModifiers modifiers) {
+    pressAt(target, places.first(), Qt::LeftButton, modifiers);
+    for (const QPointF& place : places.mid(1)) {
+        moveTo(target, place, Qt::LeftButton, modifiers);
+    }
+    releaseAt(target, places.last(), Qt::LeftButton, modifiers);
+}
+
 void waitUntil(const std::function<bool()>& done, int milliseconds) {
     EXPECT_TRUE(QTest::qWaitFor(done, milliseconds)) << "waited for " << milliseconds << " ms in vain";
 }
@@ -153,6 +181,25 @@ void DialogAnswerer::expectColor(const QColor& color) {
 void DialogAnswerer::expectColorCancelled() {
     expect([](QWidget& window) {
         if (auto* dialog = dialogOf<QColorDialog>(window, "a colour dialog")) {
+            dialog->reject();
+        }
+    });
+}
+
+void DialogAnswerer::expectFont(const std::function<void(QWidget& dialog)>& change) {
+    expect([=](QWidget& window) {
+        if (auto* dialog = dialogOf<QFontDialog>(window, "a font dialog")) {
+            if (change) {
+                change(*dialog);
+            }
+            static_cast<QDialog*>(dialog)->accept();
+        }
+    });
+}
+
+void DialogAnswerer::expectFontCancelled() {
+    expect([](QWidget& window) {
+        if (auto* dialog = dialogOf<QFontDialog>(window, "a font dialog")) {
             dialog->reject();
         }
     });

@@ -3,7 +3,9 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QColor>
+#include <QList>
 #include <QObject>
+#include <QPointF>
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
@@ -26,6 +28,17 @@ void choose(QObject& window, const QString& name);
 void click(QObject& window, const QString& name);
 /// Replaces the text of a line edit, key by key.
 void typeInto(QObject& window, const QString& name, const QString& text);
+
+/// Pointer events at a place of a control, as the window system sends them: the button that changes, or for a
+/// move the buttons that are held.
+void pressAt(QWidget& target, QPointF place, Qt::MouseButton button = Qt::LeftButton,
+             Qt::KeyboardModifiers modifiers = {});
+void moveTo(QWidget& target, QPointF place, Qt::MouseButtons held = Qt::NoButton,
+            Qt::KeyboardModifiers modifiers = {});
+void releaseAt(QWidget& target, QPointF place, Qt::MouseButton button = Qt::LeftButton,
+               Qt::KeyboardModifiers modifiers = {});
+/// Press, moves over all places but the first, release at the last.
+void drag(QWidget& target, const QList<QPointF>& places, Qt::KeyboardModifiers modifiers = {});
 
 /// Lets the event loop run until `done` says so; fails the test after `milliseconds`.
 void waitUntil(const std::function<bool()>& done, int milliseconds = 5000);
@@ -53,6 +66,10 @@ public:
     /// A colour dialog: chooses a colour, or gives up.
     void expectColor(const QColor& color);
     void expectColorCancelled();
+
+    /// The font dialog: any part of the choice may be changed before it is accepted.
+    void expectFont(const std::function<void(QWidget& dialog)>& change = {});
+    void expectFontCancelled();
 
     /// How many modal windows were answered so far.
     int answered() const { return m_answered; }
