@@ -4,11 +4,11 @@
 
 namespace zeltrona::document {
 
-void NameIndex::add(std::string_view name, std::uint32_t place) {
+void NameIndex::add(Slot entry) {
     if ((m_count + 1) * 4 > m_slots.size() * 3) {
         grow();
     }
-    put({nameHash(name), place});
+    put(entry);
     ++m_count;
 }
 

@@ -17,10 +17,29 @@ public:
 
     /// The place of the name, or kNone.
     template<typename NameAt> std::uint32_t find(std::string_view name, NameAt&& nameAt) const {
+        return findHashed(nameHash(name), name, nameAt);
+    }
+
+    /// Notes a name that is not known yet. Gives whether it was not.
+    template<typename NameAt> bool addNew(std::string_view name, std::uint32_t place, NameAt&& nameAt) {
+        const std::uint32_t hash = nameHash(name);
+        const bool isNew = findHashed(hash, name, nameAt) == kNone;
+        if (isNew) {
+            add({hash, place});
+        }
+        return isNew;
+    }
+
+private:
+    struct Slot {
+        std::uint32_t hash = 0;
+        std::uint32_t place = kNone;
+    };
+    template<typename NameAt>
+    std::uint32_t findHashed(std::uint32_t hash, std::string_view name, NameAt&& nameAt) const {
         if (m_slots.empty()) {
             return kNone;
         }
-        const std::uint32_t hash = nameHash(name);
         for (std::size_t slot = hash & mask(); m_slots[slot].place != kNone; slot = (slot + 1) & mask()) {
             if (m_slots[slot].hash == hash && sameName(nameAt(m_slots[slot].place), name)) {
                 return m_slots[slot].place;
@@ -28,16 +47,8 @@ public:
         }
         return kNone;
     }
-
-    /// Notes a name that `find` does not know yet.
-    void add(std::string_view name, std::uint32_t place);
-
-private:
-    struct Slot {
-        std::uint32_t hash = 0;
-        std::uint32_t place = kNone;
-    };
     std::size_t mask() const { return m_slots.size() - 1; }
+    void add(Slot entry);
     void put(Slot entry);
     void grow();
 

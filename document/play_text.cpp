@@ -67,6 +67,10 @@ PlayText::PlayText(std::string bytes)
     readStretches(m_store->keep(std::move(bytes)));
 }
 
+auto PlayText::nameAt() const {
+    return [this](std::uint32_t place) { return headerName(m_stretches[place].text); };
+}
+
 void PlayText::readStretches(std::string_view text) {
     std::size_t start = 0;
     std::size_t header = nextHeader(text, 0);
@@ -85,10 +89,8 @@ void PlayText::readStretches(std::string_view text) {
 
 void PlayText::addStretch(std::string_view text) {
     const std::string_view name = headerName(text);
-    const bool isFirst = findSection(name) == nullptr;
-    if (isFirst) {
-        m_index->add(name, static_cast<std::uint32_t>(m_stretches.size()));
-    } else if (!m_stretches.back().reachable && isFollowedBy(m_stretches.back().text, text)) {
+    const bool isFirst = m_index->addNew(name, static_cast<std::uint32_t>(m_stretches.size()), nameAt());
+    if (!isFirst && !m_stretches.back().reachable && isFollowedBy(m_stretches.back().text, text)) {
         m_stretches.back().text = {m_stretches.back().text.data(),
                                    m_stretches.back().text.size() + text.size()};
         return;
@@ -97,8 +99,7 @@ void PlayText::addStretch(std::string_view text) {
 }
 
 PlayText::Stretch* PlayText::findSection(std::string_view name) const {
-    const std::uint32_t place =
-        m_index->find(name, [this](std::uint32_t at) { return headerName(m_stretches[at].text); });
+    const std::uint32_t place = m_index->find(name, nameAt());
     return place == NameIndex::kNone ? nullptr : &m_stretches[place];
 }
 

@@ -55,6 +55,7 @@ private:
 
     void readStretches(std::string_view text);
     void addStretch(std::string_view text);
+    auto nameAt() const; ///< for the index: the name of the stretch at a place
     Stretch* findSection(std::string_view name) const;
     static const SectionLines& linesOf(Stretch& stretch);
     static SectionLines& linesToEdit(Stretch& stretch);

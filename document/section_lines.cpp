@@ -44,9 +44,15 @@ std::optional<KeyParts> splitKeyLine(std::string_view line) {
 }
 
 std::string_view headerName(std::string_view sectionText) {
-    const std::size_t open = sectionText.find('[');
-    const std::string_view behind = sectionText.substr(open + 1);
-    return trimBlanks(behind.substr(0, behind.find_first_of("]\r\n")));
+    std::size_t start = 0;
+    while (isBlank(sectionText[start])) {
+        ++start;
+    }
+    std::size_t end = ++start;
+    while (end < sectionText.size() && sectionText[end] != ']' && !isLineEnd(sectionText[end])) {
+        ++end;
+    }
+    return trimBlanks(sectionText.substr(start, end - start));
 }
 
 SectionLines::KeyPiece SectionLines::makePiece(std::string_view text, std::size_t lineLength) {
@@ -57,37 +63,36 @@ SectionLines::SectionLines(std::string_view sectionText) {
     LineScanner scanner(sectionText);
     scanner.next();
     std::size_t behindKeys = scanner.position();
-    std::size_t pieceStart = 0;
-    std::size_t pieceLine = 0;
-    const auto closePiece = [&](std::size_t end) {
-        if (pieceStart == 0) {
-            m_head = sectionText.substr(0, end);
-        } else {
-            m_keys.back() = makePiece(sectionText.substr(pieceStart, end - pieceStart), pieceLine);
-        }
-    };
     while (!scanner.atEnd()) {
-        const std::size_t start = scanner.position();
         const std::string_view line = scanner.next().text;
-        const std::optional<KeyParts> parts = splitKeyLine(line);
-        if (!parts) {
-            continue;
-        }
-        behindKeys = scanner.position();
-        if (find(parts->name) == NameIndex::kNone) {
-            closePiece(start);
-            m_index.add(parts->name, static_cast<std::uint32_t>(m_keys.size()));
-            m_keys.push_back(makePiece(line, line.size()));
-            pieceStart = start;
-            pieceLine = line.size();
+        if (const std::optional<KeyParts> parts = splitKeyLine(line)) {
+            behindKeys = scanner.position();
+            if (noteName(parts->name)) {
+                m_keys.push_back(makePiece(line, line.size()));
+            }
         }
     }
-    closePiece(behindKeys);
+    stretchPieces(sectionText.substr(0, behindKeys));
     m_tail = sectionText.substr(behindKeys);
+}
+
+void SectionLines::stretchPieces(std::string_view textOfKeys) {
+    const char* end = textOfKeys.data() + textOfKeys.size();
+    for (std::size_t at = m_keys.size(); at > 0; --at) {
+        KeyPiece& piece = m_keys[at - 1];
+        piece.size = static_cast<std::uint32_t>(end - piece.data);
+        end = piece.data;
+    }
+    m_head = {textOfKeys.data(), static_cast<std::size_t>(end - textOfKeys.data())};
 }
 
 std::uint32_t SectionLines::find(std::string_view key) const {
     return m_index.find(key, [this](std::uint32_t place) { return nameAt(place); });
+}
+
+bool SectionLines::noteName(std::string_view key) {
+    return m_index.addNew(key, static_cast<std::uint32_t>(m_keys.size()),
+                          [this](std::uint32_t place) { return nameAt(place); });
 }
 
 std::string_view SectionLines::nameAt(std::uint32_t place) const {
@@ -131,7 +136,7 @@ void SectionLines::addLine(std::string_view key, std::string_view value, TextSto
     const std::size_t length = line.size();
     line.append(kLineEnd);
     if (splitKeyLine(line)) {
-        m_index.add(key, static_cast<std::uint32_t>(m_keys.size()));
+        noteName(key);
         m_keys.push_back(makePiece(store.keep(std::move(line)), length));
     } else {
         m_tail = store.keep(line.append(m_tail));

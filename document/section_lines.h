@@ -75,7 +75,11 @@ private:
     };
     static KeyPiece makePiece(std::string_view text, std::size_t lineLength);
 
+    /// Lets each piece, a bare line so far, reach to the next one, and the last to the end of the text.
+    void stretchPieces(std::string_view textOfKeys);
     std::uint32_t find(std::string_view key) const;
+    /// Whether the key is new; it is then known as the one that comes to the end of m_keys next.
+    bool noteName(std::string_view key);
     std::string_view nameAt(std::uint32_t place) const;
     Edit replaceValue(KeyPiece& piece, std::string_view value, TextStore& store);
     void addLine(std::string_view key, std::string_view value, TextStore& store);

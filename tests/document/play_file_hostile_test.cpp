@@ -5,7 +5,10 @@
 #include "document/play_text.h"
 #include "tests/document/play_folder.h"
 
+#include <array>
+#include <charconv>
 #include <gtest/gtest.h>
+#include <malloc.h>
 #include <random>
 #include <string>
 
@@ -122,6 +125,39 @@ TEST_F(HostileFile, WithLfOrCrAlone) {
         EXPECT_TRUE(play.writeString("Config", "court", "5").ok());
         EXPECT_EQ(m_folder.get(),
                   "head" + end + "[Config]" + end + "court=5" + end + "[Frame1]" + end + "frame=1" + end);
+    }
+}
+
+// What is in use on the heap.
+std::size_t memoryInUse() {
+    const struct mallinfo2 now = ::mallinfo2();
+    return now.uordblks + now.hblkhd;
+}
+
+std::string numbered(const char* ahead, const char* behind, std::size_t length) {
+    std::string text;
+    for (std::size_t i = 0; text.size() < length; ++i) {
+        std::array<char, 20> digits{}; // the shortest names that differ
+        const auto made = std::to_chars(digits.data(), digits.data() + digits.size(), i, 36);
+        text.append(ahead).append(digits.data(), made.ptr).append(behind);
+    }
+    return text;
+}
+
+TEST_F(HostileFile, TakesMemoryInStepWithItsSize) {
+    constexpr std::size_t kLength = kMillion;
+    constexpr std::size_t kConstant = kMillion;
+    for (const std::string& bytes :
+         {repeated("=\n", kLength), repeated("[\n", kLength), repeated("[A\n[\n", kLength),
+          numbered("[", "\n", kLength), numbered("[", "\n[\n", kLength),
+          "[A]\n" + numbered("", "=\n", kLength)}) {
+        SCOPED_TRACE(bytes.substr(0, 20));
+        const std::size_t before = memoryInUse();
+        PlayText text(bytes);
+        EXPECT_EQ(text.value("A", "none"), std::nullopt);
+        EXPECT_EQ(text.value("", "none"), std::nullopt);
+        EXPECT_TRUE(text.write("A", "some", "1"));
+        EXPECT_LE(memoryInUse() - before, 20 * bytes.size() + kConstant);
     }
 }
 
