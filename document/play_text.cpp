@@ -120,7 +120,15 @@ SectionLines& PlayText::linesToEdit(Stretch& stretch) {
 
 std::optional<std::string_view> PlayText::value(std::string_view section, std::string_view key) const {
     Stretch* const stretch = findSection(trimSpaces(section));
-    return stretch == nullptr ? std::nullopt : linesOf(*stretch).value(trimSpaces(key));
+    if (stretch == nullptr) {
+        return std::nullopt;
+    }
+    if (!stretch->lines) {
+        if (const auto first = glanceAtFirstKey(stretch->text, trimSpaces(key))) {
+            return first;
+        }
+    }
+    return linesOf(*stretch).value(trimSpaces(key));
 }
 
 bool PlayText::write(std::string_view section, std::string_view key, std::string_view value) {

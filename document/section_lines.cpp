@@ -55,6 +55,17 @@ std::string_view headerName(std::string_view sectionText) {
     return trimBlanks(sectionText.substr(start, end - start));
 }
 
+std::optional<std::string_view> glanceAtFirstKey(std::string_view sectionText, std::string_view key) {
+    LineScanner scanner(sectionText);
+    scanner.next();
+    while (!scanner.atEnd()) {
+        if (const std::optional<KeyParts> parts = splitKeyLine(scanner.next().text)) {
+            return sameName(parts->name, key) ? std::optional(parts->value) : std::nullopt;
+        }
+    }
+    return std::nullopt;
+}
+
 SectionLines::KeyPiece SectionLines::makePiece(std::string_view text, std::size_t lineLength) {
     return {text.data(), static_cast<std::uint32_t>(text.size()), static_cast<std::uint32_t>(lineLength)};
 }

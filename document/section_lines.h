@@ -38,6 +38,10 @@ std::optional<KeyParts> splitKeyLine(std::string_view line);
 /// without blanks at its ends.
 std::string_view headerName(std::string_view sectionText);
 
+/// The value of the section's first key line, if it has this name.
+/// Reason: the number of a frame stands there, and to count the frames no section needs to be cut.
+std::optional<std::string_view> glanceAtFirstKey(std::string_view sectionText, std::string_view key);
+
 /// One section cut at its key lines, so that a value is found and replaced without a look at the rest.
 /// Shape:  only the first key line of a name counts and is known by it; later ones of the same name, comments
 /// and

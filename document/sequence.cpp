@@ -46,11 +46,11 @@ WriteResult storeBoth(PlayFile& play, WriteBatch& batch, Session& session, Frame
 WriteResult takeFrameOut(PlayFile& play, std::int16_t frame, const std::string& programFolder,
                          std::int16_t& shown) {
     WriteBatch batch(play);
-    const bool isLast = frame >= countFrames(play);
+    const bool leavesGap = frame >= 1 && frame < countFrames(play);
     play.deleteSection(frameSection(frame));
     play.deleteKey(kConfigSection, noteKey(frame));
     shown = frame;
-    if (isLast) {
+    if (!leavesGap) {
         shown = std::max<std::int16_t>(countFrames(play), 1);
     } else {
         WriteResult rewritten =

@@ -4,7 +4,9 @@
 #include "document/name_match.h"
 #include "document/number_text.h"
 
+#include <cstring>
 #include <optional>
+#include <utility>
 
 namespace zeltrona::document {
 
@@ -77,24 +79,37 @@ private:
 
 } // namespace
 
-std::string closeFrameGap(std::string_view bytes, std::int16_t deleted) {
+std::string closeFrameGap(std::string bytes, std::int16_t deleted) {
+    if (deleted < 1) {
+        return bytes;
+    }
     Renumbering renumbering(deleted);
-    std::string result;
-    result.reserve(bytes.size() + 2);
-    std::size_t copied = 0; // lines that stay are copied in runs
-    for (LineScanner lines(bytes); !lines.atEnd();) {
+    std::size_t kept = 0;   // the length of what is done
+    std::size_t copied = 0; // how far of the old text it reaches
+    // A number one lower is never longer, so the new text overtakes the scanner at no place.
+    const auto keep = [&](std::string_view piece) {
+        if (piece.data() != bytes.data() + kept) {
+            std::memmove(bytes.data() + kept, piece.data(), piece.size());
+        }
+        kept += piece.size();
+    };
+    const std::string_view text = bytes;
+    for (LineScanner lines(text); !lines.atEnd();) {
         const std::size_t begin = lines.position();
         const TextLine line = lines.next();
+        const std::size_t end = begin + line.text.size();
         if (const std::optional<std::string> changed = renumbering.renumbered(line.text)) {
-            result.append(bytes.substr(copied, begin - copied)).append(*changed);
-            copied = begin + line.text.size();
+            keep(text.substr(copied, begin - copied));
+            keep(*changed);
+            copied = end;
         }
     }
-    result.append(bytes.substr(copied));
-    if (!result.empty() && !isLineEnd(result.back())) {
-        result.append("\r\n");
+    keep(text.substr(copied));
+    bytes.resize(kept);
+    if (!bytes.empty() && !isLineEnd(bytes.back())) {
+        bytes.append("\r\n");
     }
-    return result;
+    return bytes;
 }
 
 } // namespace zeltrona::document

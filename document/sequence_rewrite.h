@@ -18,14 +18,15 @@ namespace zeltrona::document {
 /// Lines:  end at CR LF, LF or CR as in all reads of the play; each keeps its own end, renamed or
 ///         not, so a file of another program's line ends stays one. A last line without an end gets
 ///         CR LF.
-std::string closeFrameGap(std::string_view bytes, std::int16_t deleted);
+/// Range:  numbers below 1 are in no sequence: nothing changes.
+std::string closeFrameGap(std::string bytes, std::int16_t deleted);
 
 /// Name of the file through which a play goes while its frames are renumbered.
 inline constexpr const char* kTemporaryName = "zqTmp.zpf";
 
-/// Replaces the play by `bytes`, which go through the temporary file in `programFolder` or, where that cannot
-/// be written, beside the play; a play of that very name is replaced straight away. The temporary file is
-/// gone afterwards, whatever happened.
+/// Replaces the play by `bytes` once they stand whole in the temporary file, in `programFolder` or, where
+/// that cannot be written, beside the play; a play of that very name is replaced straight away. The
+/// temporary file is gone afterwards, whatever happened.
 WriteResult replaceThroughTemporary(PlayFile& play, std::string bytes, const std::string& programFolder);
 
 } // namespace zeltrona::document

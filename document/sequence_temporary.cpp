@@ -1,10 +1,9 @@
 #include "document/posix_calls.h"
 #include "document/sequence_rewrite.h"
-#include "document/whole_file.h"
 
+#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
-#include <optional>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
@@ -25,6 +24,7 @@ public:
         m_file = posix::Descriptor(posix::retry([&] {
             return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
         }));
+        m_openError = errno;
     }
     ~TemporaryFile() {
         if (m_file.isOpen()) {
@@ -34,31 +34,26 @@ public:
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-    /// What the file holds after `bytes` have gone through it; the reason on failure.
-    FileLook carry(std::string_view bytes) {
-        if (!m_file.isOpen() || !writeAll(bytes)) {
-            FileLook failed;
-            failed.reason = posix::reasonOf(errno);
-            return failed;
+    /// Why the bytes cannot stand there; empty once they do.
+    std::string fill(std::string_view bytes) {
+        if (!m_file.isOpen()) {
+            return posix::reasonOf(m_openError);
         }
-        return readWholeFile(m_path);
+        while (!bytes.empty()) {
+            const auto written =
+                posix::retry([&] { return ::write(m_file.number(), bytes.data(), bytes.size()); });
+            if (written < 0) {
+                return posix::reasonOf(errno);
+            }
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return {};
     }
 
 private:
-    bool writeAll(std::string_view rest) {
-        while (!rest.empty()) {
-            const auto written =
-                posix::retry([&] { return ::write(m_file.number(), rest.data(), rest.size()); });
-            if (written < 0) {
-                return false;
-            }
-            rest.remove_prefix(static_cast<std::size_t>(written));
-        }
-        return true;
-    }
-
     std::string m_path;
     posix::Descriptor m_file;
+    int m_openError = 0;
 };
 
 /// Where the temporary file may stand, the first choice first. A play of that very name is no place for it.
@@ -77,15 +72,15 @@ std::vector<std::string> temporaryPaths(const PlayFile& play, const std::string&
 } // namespace
 
 WriteResult replaceThroughTemporary(PlayFile& play, std::string bytes, const std::string& programFolder) {
-    WriteResult failed;
+    std::string reason;
     for (const std::string& path : temporaryPaths(play, programFolder)) {
-        FileLook copied = TemporaryFile(path).carry(bytes);
-        if (copied.reason.empty()) {
-            return play.replaceAll(std::move(copied.bytes));
+        TemporaryFile temporary(path);
+        reason = temporary.fill(bytes);
+        if (reason.empty()) {
+            return play.replaceAll(std::move(bytes));
         }
-        failed.reason = std::move(copied.reason);
     }
-    return failed.ok() ? play.replaceAll(std::move(bytes)) : failed;
+    return reason.empty() ? play.replaceAll(std::move(bytes)) : WriteResult{std::move(reason)};
 }
 
 } // namespace zeltrona::document

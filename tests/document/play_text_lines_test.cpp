@@ -142,6 +142,14 @@ TEST(PlayTextLines, ZeroBytesEndNothing) {
     EXPECT_EQ(PlayText(text).bytes(), text);
 }
 
+TEST(PlayTextLines, TheFirstKeyLineIsFoundLikeAnyOther) {
+    EXPECT_EQ(read("[A]\r\n; c\r\n\r\nno key\r\n X = 1 \r\nx=2\r\n", "A", "x"), "1");
+    EXPECT_EQ(read("[A]\r\ny=1\r\nx=2\r\n", "A", "x"), "2");
+    EXPECT_EQ(read("[A]\r\n;x=1\r\n", "A", "x"), "(absent)");
+    EXPECT_EQ(read("[A]\r\n=1\r\n", "A", ""), "1");
+    EXPECT_EQ(read("[A]\r\n[B]\r\nx=1\r\n", "A", "x"), "(absent)");
+}
+
 TEST(PlayTextLines, AByteOrderMarkBelongsToTheFirstLine) {
     EXPECT_EQ(read("\xEF\xBB\xBF[A]\r\nx=1\r\n[B]\r\ny=2\r\n", "A", "x"), "(absent)");
     EXPECT_EQ(read("\xEF\xBB\xBF[A]\r\nx=1\r\n[B]\r\ny=2\r\n", "B", "y"), "2");

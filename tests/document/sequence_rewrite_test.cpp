@@ -64,6 +64,25 @@ TEST(CloseFrameGap, NumbersOfSeveralDigitsFollow) {
               crlf("[Frame9]\nframe=9\n[Frame10]\nframe=10\n"));
 }
 
+TEST(CloseFrameGap, EveryFrameBehindFollows) {
+    std::string before = "[Frame1]\r\nframe=1\r\n";
+    std::string after = before;
+    for (int i = 3; i <= 1100; ++i) {
+        const std::string number = std::to_string(i);
+        const std::string lower = std::to_string(i - 1);
+        before += "Notes" + number + "=n\r\n[Frame" + number + "]\r\nframe=" + number + "\r\nBall0=1,2,\r\n";
+        after += "Notes" + lower + "=n\r\n[Frame" + lower + "]\r\nframe=" + lower + "\r\nBall0=1,2,\r\n";
+    }
+    EXPECT_EQ(closeFrameGap(before, 2), after);
+}
+
+TEST(CloseFrameGap, NumbersBelowOneAreInNoSequence) {
+    for (const std::int16_t deleted : {std::int16_t{0}, std::int16_t{-10}}) {
+        const std::string play = crlf("[Frame1]\nframe=1\n[Frame-9]\nframe=-9\nNotes-9=\nNotes1=\n");
+        EXPECT_EQ(closeFrameGap(play, deleted), play);
+    }
+}
+
 TEST(CloseFrameGap, EachLineKeepsItsOwnEnd) {
     EXPECT_EQ(closeFrameGap("a\n[Frame3]\nframe=3\r\nNotes3=x\rb\r\r\n", 2),
               "a\n[Frame2]\nframe=2\r\nNotes2=x\rb\r\r\n");

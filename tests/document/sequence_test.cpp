@@ -162,6 +162,13 @@ TEST_F(Sequence, AFrameBeyondTheCountIsDeletedLikeTheLast) {
     EXPECT_EQ(session.currFrame, 2);
 }
 
+TEST_F(Sequence, AFrameBelowTheFirstIsDeletedWithoutRenumbering) {
+    open("[Frame-10]\nframe=-10\nBall0=9,9,\n[Frame-9]\nframe=-9\n" + framesOf({1, 2}), -10);
+    EXPECT_TRUE(deleteShown().ok());
+    EXPECT_TRUE(play.holds("[Frame-9]\nframe=-9\n" + framesOf({1, 2})));
+    EXPECT_EQ(session.currFrame, 2);
+}
+
 TEST_F(Sequence, APlayOfOneFrameLosesNone) {
     open(framesOf({1}), 1);
     EXPECT_EQ(checkDeletion(play.file, session), Deletion::OnlyFrame);
