@@ -249,7 +249,7 @@ void PlayText::readAnew() {
 }
 
 void PlayText::tidy() {
-    constexpr std::size_t kWorthKeeping = 64 * 1024;
+    constexpr std::size_t kWorthKeeping = std::size_t{64} * 1024;
     if (m_store->size() > m_sizeRead * 2 + kWorthKeeping) {
         readAnew();
     }

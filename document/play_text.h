@@ -14,13 +14,12 @@ namespace zeltrona::document {
 /// The bytes of a play with their sections and keys, in memory.
 /// Text:  all bytes that an edit does not concern stay as they are, where they are.
 /// Names: match without regard to ASCII case, and only the first section and the first key of a name count.
-/// Spaces
-///        at the ends of a section or key argument are dropped, other blanks are not.
-/// Cost:  reading finds the headers only; a section is cut into keys at the first question for one of them,
-/// and a key
-///        is then found in constant time. An edit costs what its section has of lines at the most, except the
-///        deletion of a section and texts with line ends or marks of their own, after which all is read anew.
-///        Copies share what they have in common, so a copy to return to costs little.
+///        Spaces at the ends of a section or key argument are dropped, other blanks are not.
+/// Cost:  reading finds the headers only; a section is cut into keys at the first question for another than
+///        its first key, and a key is then found in constant time. An edit costs what its section has of
+///        lines at the most, except the deletion of a section and texts with line ends or marks of their own,
+///        after which all is read anew. Copies share what they have in common, so a copy to return to costs
+///        little.
 class PlayText {
 public:
     PlayText() : PlayText(std::string()) {}
