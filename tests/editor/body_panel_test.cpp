@@ -27,6 +27,13 @@ TEST(BodyPanel, ItemsGiveThePosesZeroToThree) {
     }
 }
 
+TEST(BodyPanel, ThereIsNoFifthPose) {
+    Desk desk;
+    pBodyTool_Click(withPanel(desk, "off", "0").editor, 5);
+    EXPECT_EQ(desk.records.offPlayers[0].body, 0);
+    EXPECT_THAT(desk.host.calls, IsEmpty());
+}
+
 TEST(BodyPanel, DefenceTagChangesADefender) {
     Desk desk;
     desk.records.defPlayers.push_back(playerAt(1, 2));

@@ -99,6 +99,42 @@ TEST(Gesture, HandUnderALaterDefenceBodyIsLetGo) {
     EXPECT_EQ(desk.state.rotatePick, -1);
 }
 
+TEST(Gesture, DefendersHandOnAnOffenceBodyIsGrippedAndSpoilsItsGrab) {
+    Desk desk;
+    desk.session.bodyType = 1;
+    desk.records.offPlayers = {playerAt(120, 80)};
+    desk.records.defPlayers = {playerAt(100, 100)};
+    desk.press(145, 105);
+    EXPECT_EQ(desk.state.pickedOff, 0);
+    EXPECT_EQ(desk.state.rotatePick, 200);
+    EXPECT_EQ(desk.state.grabDX, 45);
+    EXPECT_EQ(desk.state.grabDY, -25);
+}
+
+TEST(Gesture, RefusedBallLetsTheHandGoFirst) {
+    Desk desk;
+    desk.session.bodyType = 1;
+    desk.session.currFrame = 1;
+    desk.host.isCurveChecked = true;
+    desk.records.balls = {{120, 100}};
+    std::int16_t gripWhileTold = 0;
+    desk.host.whileOpen = [&] { gripWhileTold = desk.state.rotatePick; };
+    desk.press(125, 105);
+    EXPECT_EQ(desk.countOf("message"), 1U);
+    EXPECT_EQ(gripWhileTold, -1);
+    EXPECT_EQ(desk.state.pickedBall, -1);
+}
+
+TEST(Gesture, FirstBallRefusedEndsTheSearch) {
+    Desk desk;
+    desk.session.currFrame = 1;
+    desk.host.isCurveChecked = true;
+    desk.records.balls = {{300, 250}, {305, 255}};
+    desk.press(310, 260);
+    EXPECT_EQ(desk.countOf("message"), 1U);
+    EXPECT_EQ(desk.countOf("status"), 0U);
+}
+
 TEST(Gesture, EarlierBodyHidesALaterHand) {
     Desk desk;
     desk.session.bodyType = 1;

@@ -1,7 +1,4 @@
-#include "document/frame_store.h"
-#include "document/object_removal.h"
-#include "tests/document/temporary_play.h"
-#include "tests/editor/editor_desk.h"
+#include "tests/editor/file_desk.h"
 
 #include <gtest/gtest.h>
 
@@ -9,26 +6,9 @@ namespace zeltrona::editor {
 namespace {
 
 using namespace testing;
-using zeltrona::tests::crlf;
-using zeltrona::tests::TemporaryPlay;
 
 const std::string kHead =
     "[Config]\ntxtOff0=4\nNotes1=\n[Frame1]\nframe=1\noff0=10,20\nangleoff0=90\nbodyoff0=0\n";
-
-/// A board over a play on the disk, with frame 1 loaded.
-struct FileDesk : Desk {
-    explicit FileDesk(const std::string& lines, std::int16_t frame = 1) : play(lines) {
-        session.currFrame = frame;
-        document::resetPlayers(records.defPlayers);
-        loadFrame(play.file, session, records, frame);
-        host.onRemove = [this](document::ObjectClass kind, std::size_t index) {
-            EXPECT_TRUE(removeObject(play.file, session, records, kind, index).ok());
-        };
-        takeTool(tool::kDelete);
-    }
-
-    TemporaryPlay play;
-};
 
 /// The frame's keys behind the player, a press, and the keys after it.
 struct RemovalCase {
@@ -114,6 +94,7 @@ class RemovalAtPlace : public ::testing::TestWithParam<RemovalCase> {};
 TEST_P(RemovalAtPlace, LeavesTheseBytes) {
     const RemovalCase& row = GetParam();
     FileDesk desk(kHead + row.before);
+    desk.takeTool(tool::kDelete);
     desk.press(row.x, row.y);
     EXPECT_TRUE(desk.play.holds(kHead + row.after));
 }
@@ -121,6 +102,7 @@ TEST_P(RemovalAtPlace, LeavesTheseBytes) {
 TEST_P(RemovalAtPlace, LeavesInMemoryWhatIsInTheFile) {
     const RemovalCase& row = GetParam();
     FileDesk desk(kHead + row.before);
+    desk.takeTool(tool::kDelete);
     desk.press(row.x, row.y);
     document::FrameRecords loaded;
     loadFrame(desk.play.file, desk.session, loaded, 1);
@@ -137,6 +119,7 @@ TEST(RemovalInTheFile, OtherFramesReadTheSame) {
                  + "\noff0=10,20\nangleoff0=90\nbodyoff0=0\nBall0=100,100,\n";
     }
     FileDesk desk(lines, 3);
+    desk.takeTool(tool::kDelete);
     desk.press(100, 100);
     std::string wanted = lines;
     wanted.erase(wanted.find("Ball0=100,100,\n", wanted.find("[Frame3]")),
@@ -146,6 +129,7 @@ TEST(RemovalInTheFile, OtherFramesReadTheSame) {
 
 TEST(RemovalInTheFile, StoresTheUnsavedRestOfTheFrameToo) {
     FileDesk desk(kHead + "Ball0=100,100,\nBall1=200,100,\n");
+    desk.takeTool(tool::kDelete);
     desk.records.offPlayers[0].x = 60.5F;
     desk.records.triangles = {{50, 60.25F, 9}};
     desk.press(200, 100);
@@ -156,6 +140,7 @@ TEST(RemovalInTheFile, StoresTheUnsavedRestOfTheFrameToo) {
 
 TEST(RemovalInTheFile, OneAfterAnotherUntilNothingIsLeft) {
     FileDesk desk(kHead + kThreeBalls);
+    desk.takeTool(tool::kDelete);
     for (const float x : {100.0F, 200.0F, 300.0F}) {
         desk.press(x, 100);
         desk.release();
@@ -168,6 +153,7 @@ TEST(RemovalInTheFile, OneAfterAnotherUntilNothingIsLeft) {
 
 TEST(RemovalInTheFile, KeyOfAPathWhoseOwnerIsNotItsPlaceStaysBehind) {
     FileDesk desk(kHead + "Ball0=100,100,\nBall1=200,100,\nBall1curve=2,2,\n");
+    desk.takeTool(tool::kDelete);
     desk.press(200, 100);
     EXPECT_FALSE(hasPaths(desk.records.ballPaths));
     EXPECT_TRUE(desk.play.holds(kHead + "Ball0=100,100,\nBall1curve=2,2,\n"));
@@ -175,6 +161,7 @@ TEST(RemovalInTheFile, KeyOfAPathWhoseOwnerIsNotItsPlaceStaysBehind) {
 
 TEST(RemovalInTheFile, PathOfBallOneKeepsPlaceAndOwnerWhenBallNullGoes) {
     FileDesk desk(kHead + "Ball0=100,100,\nBall1=200,100,\nBall2=300,100,\nBall1curve=2,2,\n");
+    desk.takeTool(tool::kDelete);
     desk.press(100, 100);
     ASSERT_EQ(desk.records.ballPaths.size(), 1U);
     EXPECT_EQ(desk.records.ballPaths[0].owner, 1);
@@ -183,6 +170,7 @@ TEST(RemovalInTheFile, PathOfBallOneKeepsPlaceAndOwnerWhenBallNullGoes) {
 
 TEST(RemovalInTheFile, WithoutAKeyInTheFileTheObjectGoesAllTheSame) {
     FileDesk desk(kHead);
+    desk.takeTool(tool::kDelete);
     desk.records.balls = {{100, 100}, {200, 100}};
     desk.press(100, 100);
     EXPECT_TRUE(desk.play.holds(kHead + "Ball0=200,100,\n"));
