@@ -35,7 +35,8 @@ TEST(ListCheck, ListLongerThanItsBufferIsCut) {
     while (points.size() < 6990) {
         points += "1234,5678,";
     }
-    EXPECT_THAT(inFrame("Line0=4,0,000," + points.substr(0, 6990) + "\n"), IsEmpty()) << "6998 characters fit";
+    EXPECT_THAT(inFrame("Line0=4,0,000," + points.substr(0, 6990) + "\n"), IsEmpty())
+        << "6998 characters fit";
     EXPECT_THAT(inFrame("Line0=4,0,0000," + points.substr(0, 6990) + "\n"),
                 ElementsAre("cut [Frame1] Line0 9", "missing-field [Frame1] Line0 9"));
 }

@@ -33,10 +33,10 @@ public:
 
 private:
     void openSection(std::string_view name) {
-        const bool repeated = m_listing.find(name) != nullptr;
-        if (!repeated) {
-            m_listing.index.add(name, static_cast<std::uint32_t>(m_listing.sections.size()));
-        }
+        const auto& sections = m_listing.sections;
+        const bool repeated =
+            !m_listing.index.addNew(name, static_cast<std::uint32_t>(sections.size()),
+                                    [&](std::uint32_t place) { return sections[place].name; });
         m_listing.sections.push_back({name, m_line, repeated, {}, {}, {}});
     }
 
@@ -46,10 +46,9 @@ private:
             return;
         }
         ListedSection& section = m_listing.sections.back();
-        const bool repeated = section.find(name) != nullptr;
-        if (!repeated) {
-            section.index.add(name, static_cast<std::uint32_t>(section.keys.size()));
-        }
+        const bool repeated =
+            !section.index.addNew(name, static_cast<std::uint32_t>(section.keys.size()),
+                                  [&](std::uint32_t place) { return section.keys[place].name; });
         section.keys.push_back({name, m_line, repeated});
     }
 
