@@ -78,8 +78,8 @@ void frmHelp::buildControls() {
     grid->addWidget(m_topic, 1, 1);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(1, 1);
-    m_contents->setFixedWidth(230);
-    m_search->setFixedWidth(230);
+    m_contents->setFixedWidth(260);
+    m_search->setFixedWidth(260);
 }
 
 bool frmHelp::fillContents() {
