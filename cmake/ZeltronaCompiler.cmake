@@ -15,7 +15,7 @@ add_library(zeltrona_warnings INTERFACE)
 target_compile_options(zeltrona_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
 # GCC 12 sees overlapping copies in an optimised std::string = "text" where there are none.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  target_compile_options(zeltrona_warnings INTERFACE -Wno-restrict)
+  target_compile_options(zeltrona_warnings INTERFACE $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict>)
 endif()
 
 # Positions and lines are worked out bit for bit alike on every machine: no fused multiply-add, no fast-math.

@@ -92,7 +92,7 @@ WriteResult PlayFile::State::commitBatch() {
         m_marks.pop_back();
         return {};
     }
-    const WriteResult result = store();
+    WriteResult result = store();
     if (result.ok()) {
         m_marks.pop_back();
         m_turn = FileTurn();

@@ -38,7 +38,7 @@ FileLook lookFrom(const struct stat& status) {
 
 // Reads to the end, which another program may have moved since the size was asked for. Gives an error number.
 int readToEnd(const Descriptor& file, std::string& bytes, std::size_t expected) {
-    constexpr std::size_t kStep = 64 * 1024;
+    constexpr std::size_t kStep = 65'536;
     std::size_t filled = 0;
     bytes.resize(expected + 1);
     for (;;) {
