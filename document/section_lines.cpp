@@ -56,14 +56,19 @@ std::string_view headerName(std::string_view sectionText) {
 }
 
 std::optional<std::string_view> glanceAtFirstKey(std::string_view sectionText, std::string_view key) {
-    LineScanner scanner(sectionText);
-    scanner.next();
-    while (!scanner.atEnd()) {
-        if (const std::optional<KeyParts> parts = splitKeyLine(scanner.next().text)) {
-            return sameName(parts->name, key) ? std::optional(parts->value) : std::nullopt;
-        }
+    constexpr std::size_t kFarEnough = 200;
+    const std::string_view start = sectionText.substr(0, kFarEnough);
+    const std::size_t headerEnd = start.find_first_of("\r\n");
+    if (headerEnd == std::string_view::npos) {
+        return std::nullopt;
     }
-    return std::nullopt;
+    const std::size_t line = headerEnd + (start.substr(headerEnd).starts_with("\r\n") ? 2 : 1);
+    const std::size_t lineEnd = start.find_first_of("\r\n", line);
+    if (lineEnd == std::string_view::npos) {
+        return std::nullopt;
+    }
+    const std::optional<KeyParts> parts = splitKeyLine(start.substr(line, lineEnd - line));
+    return parts && sameName(parts->name, key) ? std::optional(parts->value) : std::nullopt;
 }
 
 SectionLines::KeyPiece SectionLines::makePiece(std::string_view text, std::size_t lineLength) {

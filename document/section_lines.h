@@ -38,7 +38,7 @@ std::optional<KeyParts> splitKeyLine(std::string_view line);
 /// without blanks at its ends.
 std::string_view headerName(std::string_view sectionText);
 
-/// The value of the section's first key line, if it has this name.
+/// The value of the key line right behind the header, if it has this name and is short.
 /// Reason: the number of a frame stands there, and to count the frames no section needs to be cut.
 std::optional<std::string_view> glanceAtFirstKey(std::string_view sectionText, std::string_view key);
 

@@ -1,6 +1,7 @@
 #include "document/code_page.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 
 using namespace zeltrona::document;
@@ -12,6 +13,9 @@ struct RealText {
     int page;
     const char* utf8;
     const char* bytes;
+    friend std::ostream& operator<<(std::ostream& out, const RealText& text) {
+        return out << "set " << text.charset;
+    }
 };
 
 class CodePage : public testing::TestWithParam<RealText> {};

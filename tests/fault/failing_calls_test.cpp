@@ -14,6 +14,7 @@
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ namespace {
 struct NamedAct {
     const char* name;
     int number; ///< of doAct
+    friend std::ostream& operator<<(std::ostream& out, const NamedAct& act) { return out << act.name; }
 };
 constexpr std::array kActs = {NamedAct{"a new frame", 6}, NamedAct{"a deleted frame", 7},
                               NamedAct{"a note", 8},      NamedAct{"a removed ball", 9},
