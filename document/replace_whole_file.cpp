@@ -108,6 +108,18 @@ FileReplacement replaceWholeFile(const std::string& path, std::span<const std::s
     return writeBeside(target, exists ? &old : nullptr, pieces);
 }
 
+std::string refusalToReplace(const std::string& path) {
+    std::string target = path;
+    struct stat old {};
+    bool exists = false;
+    int error = followLinks(target);
+    error = error != 0 ? error : lookAtOld(target, old, exists);
+    if (error == 0 && ::access(posix::folderOf(target).c_str(), W_OK | X_OK) != 0) {
+        error = errno;
+    }
+    return error == 0 ? std::string() : posix::reasonOf(error);
+}
+
 void removeLeftovers(const std::string& path) {
     std::string target = path;
     if (followLinks(target) != 0) {

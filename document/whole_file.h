@@ -55,6 +55,10 @@ struct FileReplacement {
 ///           the last flush of the folder fails, the new file stands, and the reason is given all the same.
 FileReplacement replaceWholeFile(const std::string& path, std::span<const std::string_view> pieces);
 
+/// Why `replaceWholeFile` would fail now, as far as rights tell: a file that may not be written, or a folder
+/// that takes no new one. Empty when nothing stands against it. Changes nothing.
+std::string refusalToReplace(const std::string& path);
+
 /// Removes what writers that were killed left beside the file more than an hour ago.
 void removeLeftovers(const std::string& path);
 

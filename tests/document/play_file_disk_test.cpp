@@ -266,6 +266,23 @@ TEST(PlayFileDisk, AFolderThatMayNotBeWrittenIsAFailureWithAReason) {
     EXPECT_EQ(folder.get(), kPlay);
 }
 
+TEST(PlayFileDisk, ARefusalIsKnownAheadOfTheWrite) {
+    const SharedFolder folder(0444);
+    EXPECT_EQ(refusalToReplace(folder.path("new.zpf")), "");
+    EXPECT_EQ(refusalToReplace(folder.path("")), "Is a directory");
+    EXPECT_EQ(refusalToReplace(folder.path("none/new.zpf")), "No such file or directory");
+    EXPECT_TRUE(holdsForPlainUser([&folder] {
+        return refusalToReplace(folder.path()) == "Permission denied";
+    })) << "the file";
+    ASSERT_EQ(::chmod(folder.path().c_str(), 0666), 0);
+    EXPECT_TRUE(holdsForPlainUser([&folder] { return refusalToReplace(folder.path()).empty(); }));
+    ASSERT_EQ(::chmod(folder.path("").c_str(), 0555), 0);
+    EXPECT_TRUE(holdsForPlainUser([&folder] {
+        return refusalToReplace(folder.path()) == "Permission denied";
+    })) << "the folder";
+    ASSERT_EQ(::chmod(folder.path("").c_str(), 0777), 0);
+}
+
 TEST(PlayFileDisk, ADirectoryReadsAsDefaultsAndIsNotWritten) {
     const PlayFolder folder;
     PlayFile play(folder.path(""));
