@@ -1,0 +1,154 @@
+// Long use: memory and open handles of the process while the same thing is done over and over. Prints a row
+// for every tenth of the way and ends each course with its growth from the second tenth on; the first one
+// fills caches. One short pass with
+// --benchmark_min_time given, as the other benchmarks know it.
+
+#include "assets/resources.h"
+#include "bench/sample_play.h"
+#include "dialogs/frmAbout.h"
+#include "dialogs/frmConfig.h"
+#include "dialogs/frmConfig1.h"
+#include "dialogs/frmInputBox.h"
+#include "dialogs/frmNotes.h"
+#include "dialogs/frmTitle.h"
+#include "dialogs/frmTxtMsg.h"
+#include "document/frame_store.h"
+#include "platform/program_fonts.h"
+#include "render/redraw.h"
+#include "session/frmGameSelect.h"
+#include "session/frmMain.h"
+#include "session/frmSplash.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+
+using namespace zeltrona;
+
+namespace {
+
+struct Usage {
+    long kilobytes = 0;
+    long handles = 0;
+};
+
+Usage usageNow() {
+    Usage usage;
+    std::ifstream status("/proc/self/statm");
+    long pages = 0;
+    status >> pages >> pages;
+    usage.kilobytes = pages * 4;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        ++usage.handles;
+    }
+    return usage;
+}
+
+/// Does one thing `count` times and prints the curve.
+void course(const char* name, int count, const std::function<void(int)>& once) {
+    Usage base;
+    std::printf("%s, %d times\n", name, count);
+    for (int tenth = 1; tenth <= 10; ++tenth) {
+        for (int i = count * (tenth - 1) / 10; i < count * tenth / 10; ++i) {
+            once(i);
+        }
+        const Usage now = usageNow();
+        base = tenth == 2 ? now : base;
+        std::printf("  %3d%%  %8ld KB  %4ld handles\n", tenth * 10, now.kilobytes, now.handles);
+    }
+    const Usage end = usageNow();
+    std::printf("growth %s %ld KB %ld handles\n", name, end.kilobytes - base.kilobytes,
+                end.handles - base.handles);
+}
+
+std::string storePlay(const QTemporaryDir& folder, int frames) {
+    const QString path = folder.filePath(QStringLiteral("play.zpf"));
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write(QByteArray::fromStdString(bench::samplePlay(frames)));
+    return path.toStdString();
+}
+
+void walkFrames(int frames) {
+    const QTemporaryDir folder;
+    document::PlayFile play(storePlay(folder, frames));
+    document::Session session;
+    document::FrameRecords records;
+    document::loadConfig(play, session, records);
+    course("frames_walked", frames, [&](int i) {
+        session.currFrame = static_cast<std::int16_t>(i + 1);
+        document::loadFrame(play, session, records, session.currFrame);
+    });
+    course("frames_saved", std::max(10, frames / 50), [&](int i) {
+        session.currFrame = static_cast<std::int16_t>(i + 1);
+        document::loadFrame(play, session, records, session.currFrame);
+        records.balls.front().x += 1;
+        document::saveFrame(play, session, records, session.currFrame, false);
+    });
+}
+
+void redrawBoards(int count) {
+    const QTemporaryDir folder;
+    document::PlayFile play(storePlay(folder, 3));
+    document::Session session;
+    document::FrameRecords records;
+    document::loadConfig(play, session, records);
+    document::loadFrame(play, session, records, 1);
+    const render::BoardArt art = render::loadBoardArt();
+    const QSize size = render::boardSizeOf(session.court);
+    render::BoardSurface pic(size.width(), size.height());
+    render::Board board{pic, art};
+    course("redraws", count, [&](int) { render::redrawBoard(board, {session, records}, 0, 0); });
+}
+
+void openWindows(int count) {
+    const QTemporaryDir folder;
+    document::Session session;
+    session.playFilePath = storePlay(folder, 3);
+    document::PlayFile play(session.playFilePath);
+    const render::BoardArt art = render::loadBoardArt();
+    const auto openAndClose = [](QWidget* window) {
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        window->show();
+        QCoreApplication::processEvents();
+        delete window;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    course("open_frmMain", count, [&](int) {
+        auto* window = new session::frmMain(session, art);
+        window->load();
+        openAndClose(window);
+    });
+    course("open_frmSplash", count, [&](int) { openAndClose(new session::frmSplash); });
+    course("open_frmGameSelect", count, [&](int) { openAndClose(new session::frmGameSelect(session)); });
+    course("open_frmConfig", count, [&](int) { openAndClose(new dialogs::frmConfig(play, session)); });
+    course("open_frmConfig1", count, [&](int) { openAndClose(new dialogs::frmConfig1(play, session)); });
+    course("open_frmTitle", count, [&](int) { openAndClose(new dialogs::frmTitle(play, session, nullptr)); });
+    course("open_frmNotes", count, [&](int) { openAndClose(new dialogs::frmNotes(play, session, nullptr)); });
+    course("open_frmTxtMsg", count, [&](int) { openAndClose(new dialogs::frmTxtMsg(session, nullptr)); });
+    course("open_frmInputBox", count,
+           [&](int) { openAndClose(new dialogs::frmInputBox(QStringLiteral("Arial"), 238, nullptr)); });
+    course("open_frmAbout", count, [&](int) { openAndClose(new dialogs::frmAbout(nullptr)); });
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    assets::initResources();
+    platform::useProgramFonts();
+    const bool isShort = argc > 1 && std::strncmp(argv[1], "--benchmark_min_time", 20) == 0;
+    walkFrames(isShort ? 200 : 10000);
+    redrawBoards(isShort ? 1000 : 100000);
+    openWindows(isShort ? 10 : 1000);
+    return 0;
+}
