@@ -35,14 +35,20 @@ struct PixelView {
     }
 };
 
-// Whole numbers at or below, and at or above, a place within 64 bits. The library's own are calls on machines
-// of the baseline, and strokes ask for them at every row.
+/// A place cut to a whole number; one far beyond any board stays at the far end of what 64 bits hold.
+inline std::int64_t wholeOf(double value) {
+    constexpr double kFar = 4e18;
+    return static_cast<std::int64_t>(value > kFar ? kFar : value > -kFar ? value : -kFar);
+}
+
+// Whole numbers at or below, and at or above, a place. The library's own are calls on machines of the
+// baseline, and strokes ask for them at every row.
 inline std::int64_t floorOf(double value) {
-    const auto whole = static_cast<std::int64_t>(value);
+    const std::int64_t whole = wholeOf(value);
     return whole - (value < static_cast<double>(whole) ? 1 : 0);
 }
 inline std::int64_t ceilOf(double value) {
-    const auto whole = static_cast<std::int64_t>(value);
+    const std::int64_t whole = wholeOf(value);
     return whole + (value > static_cast<double>(whole) ? 1 : 0);
 }
 
