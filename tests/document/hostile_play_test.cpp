@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <random>
 
 namespace zeltrona::document {
@@ -19,6 +20,7 @@ using tests::PlayFolder;
 struct HostileCase {
     const char* name;
     std::string (*bytes)();
+    friend std::ostream& operator<<(std::ostream& out, const HostileCase& row) { return out << row.name; }
 };
 
 std::string randomBytes() {

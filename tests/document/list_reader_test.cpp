@@ -5,6 +5,7 @@
 #include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace zeltrona::document {
 
@@ -196,6 +197,7 @@ struct NumberCase {
     const char* field;
     std::int32_t color;
     std::int16_t size;
+    friend std::ostream& operator<<(std::ostream& out, const NumberCase& row) { return out << row.name; }
 };
 
 class WholeNumberField : public testing::TestWithParam<NumberCase> {};

@@ -2,6 +2,7 @@
 #include "document/number_text.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 
 namespace zeltrona::document {
@@ -15,6 +16,7 @@ struct LayoutCase {
     std::int16_t bodyType;
     const char* off;
     const char* def;
+    friend std::ostream& operator<<(std::ostream& out, const LayoutCase& row) { return out << row.name; }
 };
 
 class NewLayout : public testing::TestWithParam<LayoutCase> {};

@@ -3,6 +3,7 @@
 #include "tests/document/temporary_play.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace zeltrona::document {
 
@@ -64,6 +65,7 @@ struct ClassCase {
     ObjectClass kind;
     const char* key;
     const char* values[3];
+    friend std::ostream& operator<<(std::ostream& out, const ClassCase& row) { return out << row.name; }
 };
 
 class EveryClass : public testing::TestWithParam<ClassCase> {

@@ -1,6 +1,7 @@
 #include "document/play_text.h"
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 #include <string>
 
 using zeltrona::document::PlayText;
@@ -165,6 +166,22 @@ TEST(PlayTextWrite, ALongRowOfEditsReadsBack) {
     EXPECT_TRUE(text.bytes().starts_with("[A]\r\nkey0=450\r\nkey1=451\r\n"));
 }
 
+TEST(PlayTextWrite, MemoryStaysFlatOverManyEdits) {
+    PlayText text("[A]\r\nx=1\r\n");
+    const auto editOften = [&text](int times) {
+        for (int i = 0; i < times; ++i) {
+            text.write("A", "x", std::string(100, static_cast<char>('a' + i % 20)));
+            text.write("B", "y", std::to_string(i));
+            text.tidy();
+        }
+    };
+    editOften(2000);
+    const std::size_t before = ::mallinfo2().uordblks;
+    editOften(20'000);
+    const std::size_t after = ::mallinfo2().uordblks;
+    EXPECT_LT(after, before + 300'000);
+}
+
 TEST(PlayTextWrite, ACopyKeepsWhatItHeld) {
     PlayText text("[A]\r\nx=1\r\n");
     EXPECT_EQ(text.value("A", "x"), "1");
@@ -212,6 +229,11 @@ TEST(PlayTextDelete, ASectionGoesWithItsKeysAndItsCommentsStay) {
 
 TEST(PlayTextDelete, BlankLinesAndLinesWithoutEqualsGoWithTheSection) {
     EXPECT_EQ(withoutSection("h\r\n[A]\r\n\r\nx=1\r\njunk\r\n \t\r\n[B]\r\n", "A"), "h\r\n[B]\r\n");
+}
+
+TEST(PlayTextDelete, SpacesAtTheEndsOfASectionArgumentGo) {
+    EXPECT_EQ(withoutSection("[A]\r\nx=1\r\n", "  A "), "");
+    EXPECT_EQ(withoutSection("[A]\r\nx=1\r\n", "\tA"), "[A]\r\nx=1\r\n");
 }
 
 TEST(PlayTextDelete, OfSeveralSectionsOfANameTheFirstGoesAndTheNextCounts) {
