@@ -16,17 +16,14 @@ struct WriteResult {
 
 /// The play on the disk, reached by section and key at the moment a value is needed.
 /// Text:   bytes in, bytes out; names match without regard to ASCII case, and only the first section and the
-/// first key
-///         of a name count. Spaces at the ends of a section or key argument are dropped.
+///         first key of a name count. Spaces at the ends of a section or key argument are dropped.
 /// Reads:  look at the file's identity, size and time of change first and parse it anew only when one
-/// differs.
-///         They never fail: a file that cannot be read answers with defaults.
+///         differs. They never fail: a file that cannot be read answers with defaults.
 /// Writes: replace the whole file (built beside, flushed, renamed over); symbolic links and permissions
-/// survive, other
-///         bytes stay as they stand. A failed write leaves the old file, and is reported by the result and to
-///         the observer. A file whose bytes cannot be read is never written over: it may hold a play. One
-///         that is missing is made; if this object has read it before it vanished, it is made whole again
-///         with what it held.
+///         survive, other bytes stay as they stand. A failed write leaves the old file, and is reported by
+///         the result and to the observer. A file whose bytes cannot be read is never written over: it may
+///         hold a play. One that is missing is made; if this object has read it before it vanished, it is
+///         made whole again with what it held.
 class PlayFile {
 public:
     explicit PlayFile(std::string path);

@@ -44,8 +44,7 @@ std::optional<std::string_view> glanceAtFirstKey(std::string_view sectionText, s
 
 /// One section cut at its key lines, so that a value is found and replaced without a look at the rest.
 /// Shape:  only the first key line of a name counts and is known by it; later ones of the same name, comments
-/// and
-///         blank lines are carried along as they stand.
+///         and blank lines are carried along as they stand.
 /// Life:   views into the text given and into the store used for edits; both must outlive it.
 class SectionLines {
 public:

@@ -49,10 +49,12 @@ struct FileReplacement {
     bool settled = false;
 };
 /// Puts the pieces in the file's place, or leaves the old file as it is. They are written to a file beside
-/// the old one, flushed to the disk, and that is renamed over it; then the folder is flushed. Keeps:    a
-/// symbolic link (its target is replaced), permissions, owner and group where the system allows it. Failures:
-/// a file that may not be written is refused although its folder would allow the replacement. When only
-///           the last flush of the folder fails, the new file stands, and the reason is given all the same.
+/// the old one, flushed to the disk, and that is renamed over it; then the folder is flushed.
+/// Keeps:    a symbolic link (its target is replaced), permissions, owner and group where the system allows
+///           it. Another hard link to the old file goes on to name the old content.
+/// Failures: a file that may not be written is refused although its folder would allow the replacement. When
+///           only the last flush of the folder fails, the new file stands, and the reason is given all the
+///           same.
 FileReplacement replaceWholeFile(const std::string& path, std::span<const std::string_view> pieces);
 
 /// Why `replaceWholeFile` would fail now, as far as rights tell: a file that may not be written, or a folder
