@@ -25,17 +25,23 @@ std::int64_t reachOf(std::int64_t width, std::int64_t height, std::int64_t dy) {
     return (reach + width) % 2 == 0 ? reach - 1 : reach;
 }
 
-/// The span without what belongs to the outline: every pixel of it has all four neighbours in the ellipse.
-RowSpan innerRow(const EllipseBox& box, std::int64_t y) {
-    const RowSpan above = ellipseRow(box, y - 1);
-    const RowSpan here = ellipseRow(box, y);
-    const RowSpan below = ellipseRow(box, y + 1);
+/// What of a row is no outline of width 1: every pixel of it has all four neighbours in the ellipse.
+RowSpan innerRow(const RowSpan& above, const RowSpan& here, const RowSpan& below) {
     return {std::max({above.left, here.left + 1, below.left}),
             std::min({above.right, here.right - 1, below.right})};
 }
 
-RowSpan emptyRow() {
-    return {};
+void fillRow(const PixelView& view, std::int64_t y, const RowSpan& whole, const RowSpan& inside,
+             const EllipseInk& ink) {
+    if (inside.right < inside.left) {
+        fillSpan(view, y, whole.left, whole.right, ink.outline);
+        return;
+    }
+    fillSpan(view, y, whole.left, inside.left - 1, ink.outline);
+    if (ink.inside) {
+        fillSpan(view, y, inside.left, inside.right, *ink.inside);
+    }
+    fillSpan(view, y, inside.right + 1, whole.right, ink.outline);
 }
 
 } // namespace
@@ -48,7 +54,7 @@ RowSpan ellipseRow(const EllipseBox& box, std::int64_t y) {
     const std::int64_t width = box.right - box.left;
     const std::int64_t height = box.bottom - box.top;
     if (width <= 0 || y < box.top || y >= box.bottom) {
-        return emptyRow();
+        return {};
     }
     const std::int64_t dy = std::abs(2 * (y - box.top) + 1 - height);
     const std::int64_t narrowest = width % 2 == 0 ? 1 : 0;
@@ -65,20 +71,20 @@ void drawEllipse(const PixelView& view, const EllipseBox& box, const EllipseInk&
     const EllipseBox outer{box.left - pen / 2, box.top - pen / 2, box.right + (pen - 1) / 2,
                            box.bottom + (pen - 1) / 2};
     const EllipseBox inner{outer.left + pen, outer.top + pen, outer.right - pen, outer.bottom - pen};
+    const bool oneColour = ink.inside == ink.outline;
     const std::int64_t first = std::max<std::int64_t>(outer.top, 0);
     const std::int64_t last = std::min<std::int64_t>(outer.bottom, view.height) - 1;
+    RowSpan above = ellipseRow(outer, first - 1);
+    RowSpan here = ellipseRow(outer, first);
     for (std::int64_t y = first; y <= last; ++y) {
-        const RowSpan whole = ellipseRow(outer, y);
-        const RowSpan inside = pen == 1 ? innerRow(outer, y) : ellipseRow(inner, y);
-        if (inside.right < inside.left) {
-            fillSpan(view, y, whole.left, whole.right, ink.outline);
-            continue;
+        const RowSpan below = ellipseRow(outer, y + 1);
+        if (oneColour) {
+            fillSpan(view, y, here.left, here.right, ink.outline);
+        } else {
+            fillRow(view, y, here, pen == 1 ? innerRow(above, here, below) : ellipseRow(inner, y), ink);
         }
-        fillSpan(view, y, whole.left, inside.left - 1, ink.outline);
-        if (ink.inside) {
-            fillSpan(view, y, inside.left, inside.right, *ink.inside);
-        }
-        fillSpan(view, y, inside.right + 1, whole.right, ink.outline);
+        above = here;
+        here = below;
     }
 }
 

@@ -35,47 +35,62 @@ QRect inkAreaOf(const SurfaceFont& font, TextSize size) {
     return QRect(0, 0, size.width, size.height).adjusted(-room, -room, room, room);
 }
 
-} // namespace
-
-TextRaster::Shape TextRaster::shapeOf(const SurfaceFont& font, const QString& text, const QRect& area) {
+/// The lines in white on nothing; the picture shows `area`.
+QImage pictureOf(const SurfaceFont& font, const QString& text, const QRect& area) {
+    QImage picture(area.size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
     const QFont made = toolkitFontOf(font);
     const QFontMetrics metrics(made);
-    const QStringList lines = linesOf(text);
-    Shape shape{sizeOf(metrics, lines), area, {}};
-    if (area.isEmpty()) {
-        return shape;
-    }
-    QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
+    QPainter painter(&picture);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing, false);
     painter.setFont(made);
     painter.setPen(Qt::white);
     painter.translate(-area.topLeft());
     int baseline = metrics.ascent();
-    for (const QString& line : lines) {
+    for (const QString& line : linesOf(text)) {
         painter.drawText(QPoint(0, baseline), line);
         baseline += metrics.height();
     }
-    painter.end();
-    shape.ink.reserve(static_cast<std::size_t>(area.width()) * static_cast<std::size_t>(area.height()));
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        std::transform(row, row + image.width(), std::back_inserter(shape.ink),
-                       [](QRgb pixel) { return static_cast<std::uint8_t>(qAlpha(pixel) >= 128 ? 1 : 0); });
-    }
-    return shape;
+    return picture;
 }
 
-void TextRaster::paint(const PixelView& view, const Shape& shape, std::int64_t x, std::int64_t y,
-                       std::uint32_t pixel) {
-    const std::uint8_t* ink = shape.ink.data();
-    for (int row = 0; row < shape.area.height(); ++row) {
-        for (int column = 0; column < shape.area.width(); ++column, ++ink) {
-            if (*ink != 0) {
-                setPixel(view, x + shape.area.x() + column, y + shape.area.y() + row, pixel);
+} // namespace
+
+std::vector<TextRaster::Run> TextRaster::inkOf(const SurfaceFont& font, const QString& text,
+                                               const QRect& area) {
+    const QImage picture = pictureOf(font, text, area);
+    std::vector<Run> ink;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        bool inside = false;
+        for (int x = 0; x < picture.width(); ++x) {
+            const bool drawn =
+                qAlpha(row[x]) >= 128; // an engine that smooths all the same is cut to drawn or not
+            if (drawn && !inside) {
+                ink.push_back({area.x() + x, area.y() + y, 0});
             }
+            if (drawn) {
+                ++ink.back().length;
+            }
+            inside = drawn;
         }
+    }
+    return ink;
+}
+
+TextRaster::Shape TextRaster::shapeOf(const SurfaceFont& font, const QString& text) {
+    const TextSize size = sizeOf(QFontMetrics(toolkitFontOf(font)), linesOf(text));
+    const QRect area = inkAreaOf(font, size);
+    if (std::int64_t{area.width()} * area.height() > kMostInk) {
+        return {size, false, {}};
+    }
+    return {size, true, inkOf(font, text, area)};
+}
+
+void TextRaster::paint(const PixelView& view, const std::vector<Run>& ink, std::int64_t x, std::int64_t y,
+                       std::uint32_t pixel) {
+    for (const Run& run : ink) {
+        fillSpan(view, y + run.y, x + run.x, x + run.x + run.length - 1, pixel);
     }
 }
 
@@ -87,10 +102,7 @@ const TextRaster::Shape& TextRaster::remembered(const SurfaceFont& font, const Q
     if (m_shapes.size() >= kMostShapes) {
         m_shapes.clear();
     }
-    const TextSize size = sizeOf(QFontMetrics(toolkitFontOf(font)), linesOf(text));
-    const QRect area = inkAreaOf(font, size);
-    const bool large = std::int64_t{area.width()} * area.height() > kMostInk;
-    return *m_shapes.insert(key, shapeOf(font, text, large ? QRect() : area));
+    return *m_shapes.insert(key, shapeOf(font, text));
 }
 
 TextSize TextRaster::measure(const SurfaceFont& font, const QString& text) {
@@ -103,11 +115,16 @@ void TextRaster::draw(const PixelView& view, const SurfaceFont& font, const QStr
         return;
     }
     const Shape& shape = remembered(font, text);
-    if (!shape.area.isEmpty()) {
-        paint(view, shape, x, y, pixel);
-        return;
+    if (shape.isWhole) {
+        paint(view, shape.ink, x, y, pixel);
+    } else {
+        drawLarge(view, font, text, x, y, pixel);
     }
-    const QRect whole = inkAreaOf(font, shape.size);
+}
+
+void TextRaster::drawLarge(const PixelView& view, const SurfaceFont& font, const QString& text,
+                           std::int64_t x, std::int64_t y, std::uint32_t pixel) {
+    const QRect whole = inkAreaOf(font, measure(font, text));
     const std::int64_t left = std::max<std::int64_t>(whole.left(), -x);
     const std::int64_t top = std::max<std::int64_t>(whole.top(), -y);
     const std::int64_t right = std::min<std::int64_t>(whole.right(), view.width - 1 - x);
@@ -116,7 +133,7 @@ void TextRaster::draw(const PixelView& view, const SurfaceFont& font, const QStr
         QRect shown;
         shown.setCoords(static_cast<int>(left), static_cast<int>(top), static_cast<int>(right),
                         static_cast<int>(bottom));
-        paint(view, shapeOf(font, text, shown), x, y, pixel);
+        paint(view, inkOf(font, text, shown), x, y, pixel);
     }
 }
 

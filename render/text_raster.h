@@ -36,15 +36,23 @@ private:
             return qHashMulti(seed, key.font.name, key.font.size, key.text);
         }
     };
-    /// One byte a pixel of `area`, which is placed relative to the left top corner of the block.
+    /// Neighbouring pixels of a row; places are relative to the left top corner of the block.
+    struct Run {
+        int x = 0;
+        int y = 0;
+        int length = 0;
+    };
     struct Shape {
         TextSize size;
-        QRect area;
-        std::vector<std::uint8_t> ink;
+        bool isWhole = true; ///< false when the text is too large to keep: no ink then
+        std::vector<Run> ink;
     };
-    static Shape shapeOf(const SurfaceFont& font, const QString& text, const QRect& area);
-    static void paint(const PixelView& view, const Shape& shape, std::int64_t x, std::int64_t y,
+    static std::vector<Run> inkOf(const SurfaceFont& font, const QString& text, const QRect& area);
+    static Shape shapeOf(const SurfaceFont& font, const QString& text);
+    static void paint(const PixelView& view, const std::vector<Run>& ink, std::int64_t x, std::int64_t y,
                       std::uint32_t pixel);
+    void drawLarge(const PixelView& view, const SurfaceFont& font, const QString& text, std::int64_t x,
+                   std::int64_t y, std::uint32_t pixel);
     const Shape& remembered(const SurfaceFont& font, const QString& text);
 
     QHash<Key, Shape> m_shapes;
