@@ -29,7 +29,7 @@ QImage turnedByQuarters(const QImage& picture, int quarters) {
     return turned;
 }
 
-const QImage& QuarterTurns::of(const QImage& picture, int quarters) {
+QImage QuarterTurns::of(const QImage& picture, int quarters) {
     const int turns = foldedQuarters(quarters);
     if (turns == 0 || picture.isNull()) {
         return picture;

@@ -13,8 +13,8 @@ QImage turnedByQuarters(const QImage& picture, int quarters);
 /// Turned pictures, remembered: a redraw asks for the same few again and again. Holds a fixed number of them.
 class QuarterTurns {
 public:
-    /// The picture as turnedByQuarters gives it. The result is good until the next call.
-    const QImage& of(const QImage& picture, int quarters);
+    /// The picture as turnedByQuarters gives it; pixels are shared, not copied.
+    QImage of(const QImage& picture, int quarters);
 
 private:
     struct Turned {

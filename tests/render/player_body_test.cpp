@@ -46,6 +46,57 @@ TEST(DrawBodyC, PaintsSkinAndShirtInTheirColoursAndTheRestOfTheMaskBlack) {
     EXPECT_EQ(boundsOfOther(pic, kFloor), QRect(108, 63, 34, 40));
 }
 
+/// What the sprite is defined by: whole-surface copies, one after the other.
+BoardSurface stepByStep(const Shapes& shapes, int quarters, Color floor) {
+    const auto copy = [](BoardSurface& dest, const QImage& source, RasterOp op) {
+        dest.bitBlt(0, 0, 50, 50, source, 0, 0, op);
+    };
+    BoardSurface sprite(50, 50);
+    BoardSurface color(50, 50);
+    sprite.setBackColor(kBlack);
+    const auto add = [&](const QImage& shape, Color filled) {
+        BoardSurface inverted(50, 50);
+        copy(inverted, shape, RasterOp::SrcCopy);
+        copy(inverted, {}, RasterOp::DstInvert);
+        color.setBackColor(filled);
+        copy(color, inverted.image(), RasterOp::SrcAnd);
+        copy(sprite, shape, RasterOp::SrcAnd);
+        copy(sprite, color.image(), RasterOp::SrcPaint);
+    };
+    add(turnedByQuarters(shapes.skin, quarters), kSkin);
+    add(turnedByQuarters(shapes.shirt, quarters), kTeam);
+    BoardSurface pic;
+    pic.setBackColor(floor);
+    pic.bitBlt(100, 60, 50, 50, turnedByQuarters(shapes.mask, quarters), 0, 0, RasterOp::SrcAnd);
+    pic.bitBlt(100, 60, 50, 50, sprite.image(), 0, 0, RasterOp::SrcPaint);
+    return pic;
+}
+
+/// Noise of every colour, so that each bit meets each other one.
+QImage noise(std::uint32_t seed) {
+    QImage image(50, 50, QImage::Format_RGB32);
+    for (int i = 0; i < 2500; ++i) {
+        seed = seed * 1664525U + 1013904223U;
+        image.setPixel(i % 50, i / 50, kOpaque | seed >> 8U);
+    }
+    return image;
+}
+
+TEST(DrawBodyC, EqualsItsCopiesDoneOneAfterTheOther) {
+    for (int quarters = 0; quarters < 4; ++quarters) {
+        for (const bool noisy : {false, true}) {
+            Shapes shapes;
+            if (noisy) {
+                shapes = {noise(1), noise(2), noise(3)};
+            }
+            BoardSurface pic;
+            pic.setBackColor(0x5A3C96);
+            drawAt(pic, shapes, -90 * quarters);
+            EXPECT_EQ(pic.image(), stepByStep(shapes, quarters, 0x5A3C96).image());
+        }
+    }
+}
+
 TEST(DrawBodyC, ShirtLiesOverSkin) {
     BoardSurface pic;
     Shapes shapes;
