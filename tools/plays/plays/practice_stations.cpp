@@ -71,7 +71,7 @@ PlayScript practiceStations() {
          .shades = floors(),
          .labels = names(),
          .marks = cones()},
-        {.note = "3 goes around the screen; 4 shoots; 1 jogs back to the line.",
+        {.note = "3 dribbles around the screen of 2; 4 shoots over D.",
          .moves = {dribble(o(3), {5.8, 18.2}, {{3.0, 17.2}}), shoot(o(4))},
          .shades = floors(),
          .labels = names(),
