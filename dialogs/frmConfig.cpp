@@ -136,6 +136,12 @@ QWidget* frmConfig::buildFoot() {
     return foot;
 }
 
+void frmConfig::keyPressEvent(QKeyEvent* event) {
+    if (!pressOnReturn(*this, *m_next, *event)) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
 void frmConfig::chooseFirstPlayers() {
     for (int slot = 0; slot < static_cast<int>(document::kSlotCount); ++slot) {
         m_offence->check(slot, slot < 3);

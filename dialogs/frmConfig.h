@@ -29,6 +29,9 @@ signals:
     /// The keys are written; the court window follows.
     void nextStep();
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void checkArialFont();
     QWidget* buildLines();

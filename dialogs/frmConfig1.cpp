@@ -182,6 +182,12 @@ void frmConfig1::optBG_Click(int index) {
     showCourtPreview();
 }
 
+void frmConfig1::keyPressEvent(QKeyEvent* event) {
+    if (!pressOnReturn(*this, *m_next, *event)) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
 void frmConfig1::Command9_Click() {
     frmTitle(m_play, m_session, this).exec();
     m_titleEdited = true;

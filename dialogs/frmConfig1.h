@@ -28,6 +28,9 @@ signals:
     /// The keys are written and session.newFileFlag is set; the main window follows.
     void nextStep();
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     QWidget* buildPreview();
     QWidget* buildStepping();

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QGroupBox>
 #include <QSignalSpy>
+#include <QTest>
 
 namespace zeltrona::dialogs {
 namespace {
@@ -39,6 +40,20 @@ TEST_F(CourtWindow, UserWhoChangesNothingGetsCourtOneOnParquetWithBlackLines) {
     EXPECT_TRUE(session.newFileFlag);
     EXPECT_TRUE(play.holds(
         "[Config]\ncourt=1\ncourtColor=16777215\ncourtTexture=1\nuseTexture=0\ntxtTitle=\ntxtHead=\n"));
+}
+
+TEST_F(CourtWindow, ReturnMeansNextAndPressesAFocusedButton) {
+    open();
+    QSignalSpy spy(form.get(), &frmConfig1::nextStep);
+    auto& step = control<QAbstractButton>(*form, "cmdc3");
+    step.setFocus();
+    QTest::keyClick(&step, Qt::Key_Return);
+    EXPECT_EQ(spy.count(), 0);
+    auto& option = control<QAbstractButton>(*form, "optBG_1");
+    option.setFocus();
+    QTest::keyClick(&option, Qt::Key_Return);
+    EXPECT_EQ(spy.count(), 1);
+    EXPECT_EQ(play.file.readWhole("Config", "court"), "2");
 }
 
 TEST_F(CourtWindow, ShowsCaptionsOfBothLanguages) {

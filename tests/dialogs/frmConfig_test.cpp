@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QTest>
 #include <QToolButton>
 
 namespace zeltrona::dialogs {
@@ -51,6 +52,15 @@ constexpr const char* kDefaultPlay =
     "off0=10,10\nangleOff0=90\nbodyOff0=0\noff1=40,10\nangleOff1=90\nbodyOff1=0\n"
     "off2=70,10\nangleOff2=90\nbodyOff2=0\n"
     "def0=10,40\nangleDef0=90\nbodyDef0=0\ndef1=40,40\nangleDef1=90\nbodyDef1=0\n";
+
+TEST_F(TeamWindow, ReturnInALabelMeansNext) {
+    open();
+    QSignalSpy spy(form.get(), &frmConfig::nextStep);
+    auto& label = control<QLineEdit>(*form, element("Text1", 0));
+    label.setFocus();
+    QTest::keyClick(&label, Qt::Key_Return);
+    EXPECT_EQ(spy.count(), 1);
+}
 
 TEST_F(TeamWindow, BeginsWithThreeAgainstTwo) {
     open();
