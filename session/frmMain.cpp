@@ -1,5 +1,6 @@
 #include "session/frmMain.h"
 
+#include "document/whole_file.h"
 #include "platform/message_box.h"
 #include "session/board_view.h"
 #include "session/file_names.h"
@@ -58,8 +59,18 @@ void frmMain::redrawBoard(float pointerX, float pointerY) {
 
 void frmMain::showWriteOutcome(const document::WriteResult& outcome) {
     m_unsavedReason = QString::fromStdString(outcome.reason);
-    m_controls.pStatus->setWarning(
-        outcome.ok() ? QString() : QStringLiteral("The play is not saved: %1.").arg(m_unsavedReason));
+    showSaveState();
+}
+
+void frmMain::showSaveState() {
+    m_refusalReason = QString::fromStdString(document::refusalToReplace(m_desk.session.playFilePath));
+    QString warning;
+    if (!m_unsavedReason.isEmpty()) {
+        warning = QStringLiteral("The play is not saved: %1.").arg(m_unsavedReason);
+    } else if (!m_refusalReason.isEmpty()) {
+        warning = QStringLiteral("This play cannot be saved here: %1.").arg(m_refusalReason);
+    }
+    m_controls.pStatus->setWarning(warning);
     showTitle();
 }
 
@@ -68,6 +79,8 @@ void frmMain::showTitle() {
         QStringLiteral("Zeltrona - ") + QFileInfo(fromPath(m_desk.session.playFilePath)).fileName();
     if (!m_unsavedReason.isEmpty()) {
         title += QStringLiteral(" - not saved: ") + m_unsavedReason;
+    } else if (!m_refusalReason.isEmpty()) {
+        title += QStringLiteral(" - cannot be saved here: ") + m_refusalReason;
     }
     setWindowTitle(title);
 }

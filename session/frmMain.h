@@ -107,6 +107,8 @@ private:
 
     void showDrawingError(const char* text);
     void showWriteOutcome(const document::WriteResult& outcome);
+    /// Says in message line and title that the play is not saved, or that it cannot be saved where it lies.
+    void showSaveState();
     void showTitle();
 
     render::Scene scene() const;
@@ -123,6 +125,7 @@ private:
     TransportBridge m_transportBridge;
     animation::Transport m_transport;
     QString m_unsavedReason; ///< empty while the last write succeeded
+    QString m_refusalReason; ///< why a write would fail; empty when it would not
 };
 
 } // namespace zeltrona::session

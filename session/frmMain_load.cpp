@@ -44,6 +44,7 @@ std::optional<std::int16_t> frmMain::load() {
     layoutWindowForCourt();
     m_controls.pStatus->print(QStringLiteral(" Ready"));
     drawFirstCourt();
+    showSaveState();
     layoutNewPlayers();
     m_desk.surface.refresh();
     resetAnimation();

@@ -1,5 +1,6 @@
 #include "assets/resources.h"
 #include "document/session.h"
+#include "platform/program_folder.h"
 #include "platform/program_fonts.h"
 #include "platform/themed_icon.h"
 #include "render/board_art.h"
@@ -21,6 +22,7 @@ int main(int, char** argv) {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/art/zeltrona.svg")));
     platform::useProgramFonts();
     platform::useAccent();
+    platform::beginInOwnPlays();
 
     document::Session session;
     const render::BoardArt art = render::loadBoardArt();
