@@ -3,18 +3,12 @@
 #include "tools/zpf/commands.h"
 #include "tools/zpf/play_facts.h"
 
-#include <algorithm>
-#include <array>
 #include <iomanip>
 #include <ostream>
 
 namespace zeltrona::zpf {
 
 namespace {
-
-std::array<Command, 5> allCommands() {
-    return {infoCommand(), checkCommand(), renderCommand(), reportCommand(), printCommand()};
-}
 
 void printHelp(std::ostream& to) {
     to << "Usage: zpf COMMAND [OPTION...] PLAY...\n"
@@ -48,6 +42,10 @@ ExitCode runCommand(const Command& command, std::span<const std::string_view> wo
 }
 
 } // namespace
+
+std::array<Command, 5> allCommands() {
+    return {infoCommand(), checkCommand(), renderCommand(), reportCommand(), printCommand()};
+}
 
 ExitCode usageFault(const CommandSpec& spec, Streams streams, std::string_view fault) {
     streams.err << "zpf " << spec.name << ": " << fault << "\nTry \"zpf " << spec.name << " --help\".\n";

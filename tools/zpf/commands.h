@@ -2,6 +2,8 @@
 
 #include "tools/zpf/command.h"
 
+#include <array>
+
 namespace zeltrona::zpf {
 
 /// What each play is about.
@@ -15,5 +17,8 @@ Command renderCommand();
 Command reportCommand();
 /// The printed pages of each play, FOLDER/<play>.pdf.
 Command printCommand();
+
+/// In the order of the help.
+std::array<Command, 5> allCommands();
 
 } // namespace zeltrona::zpf
