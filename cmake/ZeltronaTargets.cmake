@@ -17,6 +17,7 @@ function(zeltrona_add_program name)
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} zeltrona_warnings)
+  target_link_options(${name} PRIVATE -Wl,-z,relro,-z,now) # addresses are settled at start and then kept from writes
 endfunction()
 
 # zeltrona_add_test(<room> SOURCES ... LINKS ... [MAIN file])
