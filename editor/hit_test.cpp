@@ -59,7 +59,8 @@ BodyRectangle bodyRectangle(std::int16_t angle) {
     const int quadrant = isFullTurn ? (angle - 1) / 90 : 0;
     const int remainder = angle - quadrant * 90;
     const int step = remainder >= 1 && remainder <= 75 ? (remainder - 1) / 15 : kStepsInQuadrant - 1;
-    return kBodyRectangles[static_cast<std::size_t>(quadrant * kStepsInQuadrant + step)];
+    const int row = quadrant * kStepsInQuadrant + step;
+    return kBodyRectangles[static_cast<std::size_t>(row)];
 }
 
 int hitBodyHand(const FrameRecords& records, Side side, std::int16_t index, std::int16_t x, std::int16_t y) {
