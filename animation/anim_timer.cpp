@@ -23,9 +23,12 @@ void AnimTimer::setInterval(int milliseconds) {
     m_interval = milliseconds;
     if (runs()) {
         startTicks();
-    } else if (ran) {
+        return;
+    }
+    if (ran) {
         stopTicks();
     }
+    keepInterval();
 }
 
 } // namespace zeltrona::animation

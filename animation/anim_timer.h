@@ -22,6 +22,8 @@ protected:
     /// Begin ticking every interval() milliseconds, the first after one interval; also when already ticking.
     virtual void startTicks() = 0;
     virtual void stopTicks() = 0;
+    /// Another interval was set while no ticks come.
+    virtual void keepInterval() {}
 
 private:
     bool m_enabled = false;

@@ -23,4 +23,8 @@ void QtAnimTimer::stopTicks() {
     }
 }
 
+void QtAnimTimer::keepInterval() {
+    m_timer.setInterval(interval());
+}
+
 } // namespace zeltrona::animation

@@ -19,6 +19,7 @@ public:
 protected:
     void startTicks() override;
     void stopTicks() override;
+    void keepInterval() override;
 
 private:
     QTimer& m_timer;

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -137,6 +138,11 @@ TEST(UnsavedSign, FailedSaveIsToldInLineAndTitleUntilOneSucceeds) {
     click(play.window(), QStringLiteral("seqSave"));
     EXPECT_EQ(play.status(), " Ready");
     EXPECT_EQ(play.window().windowTitle(), QStringLiteral("Zeltrona - play.zpf"));
+}
+
+TEST(UnsavedSign, PlayThatCanBeSavedHasNone) {
+    OpenPlay play;
+    EXPECT_EQ(play.status(), " Ready");
 }
 
 } // namespace

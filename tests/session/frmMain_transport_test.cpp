@@ -108,6 +108,16 @@ TEST(MainTransport, EachDigitHasItsInterval) {
     }
 }
 
+TEST(MainTransport, IntervalFollowsTheDigitAlsoWhileNothingRuns) {
+    OpenPlay play;
+    EXPECT_EQ(timerOf(play).interval(), 50);
+    testing::typeInto(play.window(), QStringLiteral("txtAnimSpeed"), QStringLiteral("7"));
+    EXPECT_EQ(timerOf(play).interval(), 7);
+    testing::typeInto(play.window(), QStringLiteral("txtAnimSpeed"), QStringLiteral("0"));
+    EXPECT_EQ(timerOf(play).interval(), 50);
+    EXPECT_FALSE(timerOf(play).isActive());
+}
+
 TEST(MainTransport, WrongSpeedBecomesThreeWhileItIsTyped) {
     OpenPlay play;
     for (const char* typed : {"0", "x", "10"}) {
