@@ -53,7 +53,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const Encoded made = fromUtf8(bytes, charset);
     if (made.complete) {
-        FUZZ_CHECK(fromUtf8(toUtf8(made.bytes, charset), charset).bytes == made.bytes);
+        // The Vietnamese set writes some letters in two ways, so the meaning is compared and not the bytes.
+        const std::string meaning = toUtf8(made.bytes, charset);
+        FUZZ_CHECK(toUtf8(fromUtf8(meaning, charset).bytes, charset) == meaning);
     }
     return 0;
 }
