@@ -42,8 +42,8 @@ public:
         while (!bytes.empty()) {
             const auto written =
                 posix::retry([&] { return ::write(m_file.number(), bytes.data(), bytes.size()); });
-            if (written < 0) {
-                return posix::reasonOf(errno);
+            if (written <= 0) {
+                return posix::reasonOf(written < 0 ? errno : EIO);
             }
             bytes.remove_prefix(static_cast<std::size_t>(written));
         }

@@ -21,6 +21,7 @@ struct Plan {
     int repeats = 0;
     bool failed = false;
     long longestWrite = 0;
+    int emptyWrites = 0;
     int place = 0;
 };
 
@@ -48,6 +49,17 @@ bool failsNow(const char* name) {
 
 template<typename Function> Function* systemCall(const char* name) {
     return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
+}
+
+// Whether the write that comes now takes nothing.
+bool isEmptyNow() {
+    Plan& now = plan();
+    if (now.emptyWrites == 0) {
+        return false;
+    }
+    --now.emptyWrites;
+    now.failed = true;
+    return true;
 }
 
 long shortened(size_t size) {
@@ -79,6 +91,11 @@ void failCall(int place, int error) {
 void shortenWrites(long bytes) {
     plan() = {};
     plan().longestWrite = bytes;
+}
+
+void emptyWrites() {
+    plan() = {};
+    plan().emptyWrites = 100;
 }
 
 bool endFailures() {
@@ -142,13 +159,19 @@ ssize_t read(int file, void* bytes, size_t size) {
 
 ssize_t write(int file, const void* bytes, size_t size) {
     static auto* const real = systemCall<ssize_t(int, const void*, size_t)>("write");
-    return failsNow("write") ? -1 : real(file, bytes, static_cast<size_t>(shortened(size)));
+    if (failsNow("write")) {
+        return -1;
+    }
+    return isEmptyNow() ? 0 : real(file, bytes, static_cast<size_t>(shortened(size)));
 }
 
 ssize_t writev(int file, const struct iovec* vectors, int count) {
     static auto* const real = systemCall<ssize_t(int, const struct iovec*, int)>("writev");
     if (failsNow("writev")) {
         return -1;
+    }
+    if (isEmptyNow()) {
+        return 0;
     }
     if (plan().longestWrite > 0 && count > 0) {
         struct iovec first = vectors[0];

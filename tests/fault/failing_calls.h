@@ -17,7 +17,9 @@ std::vector<std::string> stopCounting();
 void failCall(int place, int error);
 /// Writes take at most so many bytes at a time.
 void shortenWrites(long bytes);
-/// All goes its usual way again. Gives whether the failure has come to pass.
+/// Writes take nothing and report no error, a hundred times; who goes on after that is let through.
+void emptyWrites();
+/// All goes its usual way again. Gives whether the failure, or an empty write, has come to pass.
 bool endFailures();
 
 } // namespace zeltrona::tests

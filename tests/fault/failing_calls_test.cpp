@@ -140,6 +140,16 @@ TEST_P(FailingCalls, ShortWritesAreGoneOnWith) {
     }
 }
 
+TEST_P(FailingCalls, WritesThatTakeNothingAreAFailureAndNoEndlessTry) {
+    PlayFile play(putBefore());
+    PlayAct act = prepareAct(play, GetParam().number);
+    emptyWrites();
+    EXPECT_EQ(performAct(play, act, m_folder.path("")).reason, "Input/output error");
+    EXPECT_TRUE(endFailures());
+    EXPECT_EQ(m_folder.get(), m_before);
+    EXPECT_EQ(m_folder.othersThan(), 0U);
+}
+
 INSTANTIATE_TEST_SUITE_P(Acts, FailingCalls, testing::ValuesIn(kActs), [](const auto& act) {
     std::string name = act.param.name;
     std::replace(name.begin(), name.end(), ' ', '_');
