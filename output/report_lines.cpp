@@ -2,11 +2,10 @@
 
 #include "document/code_page.h"
 #include "document/session.h"
+#include "document/user_texts.h"
 
 namespace zeltrona::output {
 namespace {
-
-constexpr char kBreakMark = static_cast<char>(174);
 
 class ReportWriter {
 public:
@@ -123,7 +122,8 @@ std::string webCharsetName(std::int16_t charset) {
 }
 
 void breakMarksToHtml(std::string& text) {
-    for (std::size_t at = text.find(kBreakMark); at != std::string::npos; at = text.find(kBreakMark)) {
+    for (std::size_t at = text.find(document::kBreakMark); at != std::string::npos;
+         at = text.find(document::kBreakMark)) {
         text.replace(at, 1, "<BR>");
     }
 }
