@@ -1,6 +1,7 @@
 #include "platform/common_dialog.h"
 
 #include "platform/color_value.h"
+#include "platform/program_folder.h"
 
 #include <QColorDialog>
 #include <QFileDialog>
@@ -16,6 +17,9 @@ bool askFile(QWidget* parent, CommonDialog& dialog, const FileQuestion& question
     window.setObjectName(QStringLiteral("CommonDialog1"));
     window.setAccessibleName(question.title);
     window.setAcceptMode(mode);
+    if (mode == QFileDialog::AcceptSave) {
+        window.setDirectory(folderToSaveIn(window.directory().absolutePath()));
+    }
     window.setFileMode(QFileDialog::AnyFile);
     window.setOption(QFileDialog::DontConfirmOverwrite);
     if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) {

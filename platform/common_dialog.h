@@ -19,7 +19,7 @@ struct CommonDialog {
 struct FileQuestion {
     QString title;
     QString filter; ///< as "Zeltrona File (*.zpf)"
-    QString folder; ///< empty: where the last file dialog of the run stood
+    QString folder; ///< empty: where the last file dialog of the run stood, as far as one may save there
 };
 
 /// Each returns false on cancel. The object is a QFileDialog named "CommonDialog1". What the user typed comes

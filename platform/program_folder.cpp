@@ -53,6 +53,10 @@ QString playsFolder() {
                          QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
 }
 
+QString folderToSaveIn(const QString& standing) {
+    return QFileInfo(standing).isWritable() ? standing : playsFolder();
+}
+
 void beginInOwnPlays() {
     if (!takesFiles(programFolder())) {
         QDir::setCurrent(playsFolder());

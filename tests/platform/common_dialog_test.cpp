@@ -1,4 +1,5 @@
 #include "platform/common_dialog.h"
+#include "platform/program_folder.h"
 #include "tests/session/window_harness.h"
 
 #include <QColorDialog>
@@ -7,6 +8,8 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace zeltrona::platform {
 namespace {
@@ -14,6 +17,20 @@ namespace {
 using testing::DialogAnswerer;
 
 const FileQuestion kQuestion{QStringLiteral("Select"), QStringLiteral("Zeltrona File (*.zpf)"), {}};
+
+/// While it lives, rights bind the test although the administrator runs it.
+class BoundByRights {
+public:
+    BoundByRights() { become(m_user == 0 ? kNobody : m_user); }
+    ~BoundByRights() { become(m_user); }
+    BoundByRights(const BoundByRights&) = delete;
+    BoundByRights& operator=(const BoundByRights&) = delete;
+
+private:
+    static constexpr uid_t kNobody = 65534;
+    void become(uid_t user) const { EXPECT_EQ(::setresuid(user, user, m_user), 0); }
+    uid_t m_user = ::geteuid();
+};
 
 QString touched(const QTemporaryDir& folder, const QString& name) {
     const QString path = folder.filePath(name);
@@ -68,6 +85,23 @@ TEST(CommonDialog, OpenLetsThroughANameThatDoesNotExist) {
     CommonDialog dialog;
     EXPECT_TRUE(showOpen(nullptr, dialog, kQuestion));
     EXPECT_EQ(dialog.fileTitle, QStringLiteral("gone.zpf"));
+}
+
+TEST(CommonDialog, SaveDoesNotBeginInAFolderThatTakesNoFiles) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir().mkpath(playsFolder()));
+    ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0555), 0);
+    DialogAnswerer answers;
+    answers.expect([&](QWidget& window) {
+        auto& files = dynamic_cast<QFileDialog&>(window);
+        EXPECT_EQ(files.directory().absolutePath(), playsFolder());
+        files.reject();
+    });
+    CommonDialog dialog;
+    FileQuestion question = kQuestion;
+    question.folder = folder.path();
+    const BoundByRights bound;
+    showSave(nullptr, dialog, question);
 }
 
 TEST(CommonDialog, SaveAddsNoExtension) {

@@ -69,5 +69,14 @@ TEST_F(ProgramElsewhere, HomeServesWhereNoFolderCanBeMade) {
     EXPECT_TRUE(foundByPlainUser(QDir::homePath()));
 }
 
+TEST_F(ProgramElsewhere, SavingBeginsWhereTheDialogStandsWhenThatTakesFiles) {
+    EXPECT_TRUE(tests::holdsForPlainUser([&] { return folderToSaveIn(documents()) == documents(); }));
+}
+
+TEST_F(ProgramElsewhere, SavingBeginsInTheOwnPlaysAfterALookAtTheSamples) {
+    ASSERT_EQ(::chmod(encoded(program()).constData(), 0555), 0);
+    EXPECT_TRUE(tests::holdsForPlainUser([&] { return folderToSaveIn(program()) == playsFolder(); }));
+}
+
 } // namespace
 } // namespace zeltrona::platform
