@@ -1,8 +1,11 @@
 #include "session/board_view.h"
 
+#include <QCursor>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QWindow>
 
 #include <cmath>
 
@@ -72,15 +75,51 @@ void BoardView::paintEvent(QPaintEvent* event) {
 }
 
 void BoardView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        m_holdsLeft = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+        watchWindow();
+    }
     emit pressed(pointerEvent(*event, event->button()));
+    tellLostRelease();
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
     emit moved(pointerEvent(*event, event->buttons()));
+    tellLostRelease();
 }
 
 void BoardView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        m_holdsLeft = false;
+    }
     emit released(pointerEvent(*event, event->button()));
+}
+
+// A message box that opens during a drag ends the board's hold on the pointer. While it is open the toolkit
+// drops a release, and afterwards it hands one to no control: the window system's own state of the button is
+// all that is left of it.
+void BoardView::tellLostRelease() {
+    if (!m_holdsLeft || QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+        return;
+    }
+    m_holdsLeft = false;
+    const QPointF place = mapFromGlobal(QPointF(QCursor::pos()));
+    emit released({buttonCode(Qt::LeftButton), shiftCode(QGuiApplication::keyboardModifiers()),
+                   static_cast<float>(place.x()), static_cast<float>(place.y())});
+}
+
+void BoardView::watchWindow() {
+    if (QWindow* handle = window()->windowHandle()) {
+        handle->installEventFilter(this);
+    }
+}
+
+// Told later, when the board had its chance to get the release in the ordinary way.
+bool BoardView::eventFilter(QObject* watched, QEvent* event) {
+    if (m_holdsLeft && event->type() == QEvent::MouseButtonRelease) {
+        QMetaObject::invokeMethod(this, &BoardView::tellLostRelease, Qt::QueuedConnection);
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace zeltrona::session

@@ -19,6 +19,9 @@ struct PointerEvent {
 
 /// `pic`: shows the surface's image, one image pixel to one board unit, without a border, and tells pointer
 /// events. It follows the pointer without a button too. On a finer screen a unit is a block of equal pixels.
+/// Each press of the left button is followed by its release, also where a message box swallowed it: it is
+/// told when the box is gone, or when the button goes up after it. What no window of the program saw is told
+/// when the pointer comes back.
 class BoardView : public QWidget {
     Q_OBJECT
 
@@ -38,11 +41,16 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void showRefreshed();
+    void tellLostRelease();
+    void watchWindow();
 
     render::BoardSurface* m_surface = nullptr;
+    bool m_holdsLeft =
+        false; ///< pressed here and not yet told as released; events of a test's own never set it
 };
 
 } // namespace zeltrona::session
