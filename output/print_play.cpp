@@ -4,6 +4,7 @@
 #include "output/page_measure.h"
 #include "output/page_painter.h"
 #include "output/print_texts.h"
+#include "output/whole_pdf.h"
 #include "platform/message_box.h"
 #include "platform/printer.h"
 
@@ -20,7 +21,8 @@ namespace {
 /// Paints pages one after the other on a printer, beginning a new sheet before each but the first.
 class SheetPainter {
 public:
-    explicit SheetPainter(QPrinter& printer) : m_printer(printer), m_good(m_painter.begin(&printer)) {
+    explicit SheetPainter(QPrinter& printer)
+        : m_printer(printer), m_opened(m_painter.begin(&printer)), m_good(m_opened) {
         const double pixelsPerPoint = printer.resolution() / 72.0;
         if (m_good) {
             m_painter.scale(pixelsPerPoint, pixelsPerPoint);
@@ -35,14 +37,24 @@ public:
         }
         return m_good;
     }
+    /// Whether the printer was opened at all.
+    bool opened() const { return m_opened; }
     bool end() { return m_good && m_painter.end() && m_printer.printerState() != QPrinter::Error; }
 
 private:
     QPrinter& m_printer;
     QPainter m_painter;
+    bool m_opened;
     bool m_good;
     bool m_begun = false;
 };
+
+/// Pages that a print system or a pipe takes are its own affair, those in a file are looked at.
+bool reachedTheDisk(const QPrinter& printer) {
+    QFile file(printer.outputFileName());
+    return printer.outputFormat() != QPrinter::PdfFormat || !QFileInfo(file).isFile()
+           || (file.open(QIODevice::ReadOnly) && isWholePdf(file.readAll()));
+}
 
 void killDocument(QPrinter& printer) {
     printer.abort();
@@ -81,8 +93,8 @@ bool printPages(FrameWalk& walk, QPrinter& printer, PrintMode mode, const PrintR
                                 [&frames](std::int16_t frame) { return frames.upTo(frame); });
         }
     }
-    good = sheets.end() && good;
-    if (!good) {
+    good = sheets.end() && good && reachedTheDisk(printer);
+    if (!good && sheets.opened()) { // a file that could not be opened is still the old one
         killDocument(printer);
     }
     return good;

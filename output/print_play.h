@@ -23,8 +23,9 @@ struct PrintRange {
 };
 
 /// Prints the pages of the range. Frames ahead of the range are loaded and drawn too, since a frame without
-/// players of a side shows those of the frame before. Errors: false when the printer gave up; the document is
-/// taken back and no half file stays.
+/// players of a side shows those of the frame before. Errors: false when the printer gave up or the disk did
+/// not take a whole file; the document is taken back and no half file stays. A file that could not be opened
+/// stays as it is.
 bool printPages(FrameWalk& walk, QPrinter& printer, PrintMode mode, const PrintRange& range,
                 const QFont& windowFont, const QImage& logo);
 

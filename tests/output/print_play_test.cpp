@@ -1,7 +1,11 @@
 #include "output/print_play.h"
+#include "output/whole_pdf.h"
 #include "tests/output/output_fixture.h"
+#include "tests/output/short_files.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPrintDialog>
 #include <QProcess>
 #include <QRegularExpression>
@@ -111,6 +115,36 @@ TEST_F(PrintPlay, DocumentThatCannotBeWrittenLeavesNoHalfFile) {
     printer.setOutputFileName(path("missing/out.pdf"));
     EXPECT_FALSE(printPages(walk, printer, PrintMode::BigPictures, {1, 1, 1}, QFont(), logo));
     EXPECT_FALSE(QFile::exists(path("missing/out.pdf")));
+}
+
+TEST_F(PrintPlay, DiskThatTakesNoMoreLeavesNoHalfFile) {
+    begin(4);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path("out.pdf"));
+    const tests::ShortFiles full(20000);
+    EXPECT_FALSE(printPages(walk, printer, PrintMode::BigPictures, {1, 1, 1}, QFont(), logo));
+    EXPECT_FALSE(QFile::exists(path("out.pdf")));
+}
+
+TEST_F(PrintPlay, FileThatCannotBeOpenedStaysAsItIs) {
+    begin(1);
+    ASSERT_TRUE(QDir().mkpath(path("out.pdf")));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path("out.pdf"));
+    EXPECT_FALSE(printPages(walk, printer, PrintMode::BigPictures, {1, 1, 1}, QFont(), logo));
+    EXPECT_TRUE(QFileInfo(path("out.pdf")).isDir());
+}
+
+TEST(WholePdf, EndNamesWhereTheTableStands) {
+    const QByteArray whole = "%PDF-1.4\n1 0 obj\nxref\n0 1\ntrailer\nstartxref\n17\n%%EOF\n";
+    ASSERT_EQ(whole.mid(17, 4), "xref");
+    EXPECT_TRUE(isWholePdf(whole));
+    EXPECT_FALSE(isWholePdf(QByteArray(whole).remove(10, 2))) << "bytes lost in the middle";
+    EXPECT_FALSE(isWholePdf(whole.left(whole.size() - 4))) << "the end is lost";
+    EXPECT_FALSE(isWholePdf(whole.mid(1))) << "the head is lost";
+    EXPECT_FALSE(isWholePdf({}));
 }
 
 class PrintCommand : public PrintPlay {
