@@ -24,7 +24,11 @@ _zpf() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} values option=
     COMPREPLY=()
     if [ "$COMP_CWORD" -eq 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W "info check render report print --help --version" -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W "info check render report print help --help --version" -- "$word")
+        return
+    fi
+    if [ "${COMP_WORDS[1]}" = help ]; then
+        [ "$COMP_CWORD" -gt 2 ] || mapfile -t COMPREPLY < <(compgen -W "info check render report print" -- "$word")
         return
     fi
     # The shell takes "--scale=2" apart at its mark.

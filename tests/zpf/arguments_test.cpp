@@ -11,10 +11,10 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-constexpr std::array kOptions{OptionSpec{'o', "output", "FOLDER", "where pictures go;\nit is made"},
-                              OptionSpec{'q', "quiet", "", "say nothing"},
-                              OptionSpec{'\0', "json", "", "as JSON"}};
-constexpr CommandSpec kCommand{"draw", "PLAY...", "Draws.", kOptions};
+constexpr std::array kOptions{OptionForm{'o', "output", "FOLDER", "where pictures go;\nit is made"},
+                              OptionForm{'q', "quiet", "", "say nothing"},
+                              OptionForm{'\0', "json", "", "as JSON"}};
+constexpr CommandForm kCommand{"draw", "PLAY...", "Draws.", kOptions};
 
 Arguments parse(const std::vector<std::string_view>& words) {
     return parseArguments(kCommand, words);

@@ -31,6 +31,11 @@ TEST(CommandLine, WithoutACommandShowsTheHelpAsAFault) {
     EXPECT_THAT(run.err, HasSubstr("Usage: zpf"));
 }
 
+TEST(CommandLine, HelpOfACommandByItsName) {
+    EXPECT_EQ(ProgramRun({"help", "print"}).out, ProgramRun({"print", "--help"}).out);
+    EXPECT_EQ(ProgramRun({"help", "dance"}).code, ExitCode::Usage);
+}
+
 TEST(CommandLine, UnknownCommandIsNamed) {
     const ProgramRun run({"dance"});
     EXPECT_EQ(run.code, ExitCode::Usage);

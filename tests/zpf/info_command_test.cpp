@@ -9,6 +9,7 @@ namespace {
 
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 class InfoCommand : public CommandTest {
 protected:
@@ -56,6 +57,16 @@ TEST_F(InfoCommand, FileWithoutAFrameIsNoPlay) {
     EXPECT_EQ(run.code, ExitCode::Failed);
     EXPECT_THAT(run.err, HasSubstr("letter.txt: holds no frame"));
     EXPECT_THAT(run.out, HasSubstr("horns.zpf"));
+}
+
+TEST_F(InfoCommand, TextsOfThePlayCannotMoveTheCursor) {
+    const QString play =
+        write("x.zpf", QByteArray(kConfig) + "txttitle=\x1B[2Jred\x9B\r\n[\x1B[2J]\r\n" + kFrames);
+    EXPECT_THAT(ProgramRun({"info", play}).out, HasSubstr("title     \\x1B[2Jred"));
+    for (const char* command : {"info", "check"}) {
+        EXPECT_THAT(ProgramRun({command, play}).out, Not(HasSubstr("\x1B"))) << command;
+    }
+    EXPECT_THAT(ProgramRun({"info", path("no\x1B.zpf")}).err, HasSubstr("no\\x1B.zpf: No such file"));
 }
 
 } // namespace

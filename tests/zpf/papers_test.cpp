@@ -37,8 +37,8 @@ QStringList offered(const QString& words, const QString& folder = QStringLiteral
 TEST(ManualPage, TellsEveryCommandAndOption) {
     const QByteArray page = paper("man/zpf.1.in");
     for (const Command& command : allCommands()) {
-        EXPECT_TRUE(page.contains(".B zpf " + QByteArray(command.spec.name.data()))) << command.spec.name;
-        for (const OptionSpec& option : command.spec.options) {
+        EXPECT_TRUE(page.contains(".B zpf " + QByteArray(command.form.name.data()))) << command.form.name;
+        for (const OptionForm& option : command.form.options) {
             EXPECT_TRUE(page.contains("--" + QByteArray(option.name.data()))) << option.name;
         }
     }
@@ -53,24 +53,25 @@ TEST(ManualPage, TellsEveryKindOfFinding) {
 }
 
 TEST(Completion, OffersTheCommands) {
-    QStringList names{"--help", "--version"};
+    QStringList names{"help", "--help", "--version"};
     for (const Command& command : allCommands()) {
-        names.append(QString::fromLatin1(command.spec.name.data()));
+        names.append(QString::fromLatin1(command.form.name.data()));
     }
     QStringList found = offered("zpf ''");
     found.sort();
     names.sort();
     EXPECT_EQ(found, names);
     EXPECT_EQ(offered("zpf re"), QStringList({"render", "report"}));
+    EXPECT_EQ(offered("zpf help re"), QStringList({"render", "report"}));
 }
 
 TEST(Completion, OffersTheOptionsOfACommand) {
     for (const Command& command : allCommands()) {
         QStringList names{"--help"};
-        for (const OptionSpec& option : command.spec.options) {
+        for (const OptionForm& option : command.form.options) {
             names.append("--" + QString::fromLatin1(option.name.data()));
         }
-        QStringList found = offered("zpf " + QString::fromLatin1(command.spec.name.data()) + " -");
+        QStringList found = offered("zpf " + QString::fromLatin1(command.form.name.data()) + " -");
         found.sort();
         names.sort();
         EXPECT_EQ(found, names);

@@ -1,3 +1,4 @@
+#include "tests/output/short_files.h"
 #include "tests/zpf/command_fixture.h"
 
 #include <QDir>
@@ -90,7 +91,35 @@ TEST_F(PrintCommand, PagesThatCannotBeWrittenAreTold) {
     QDir().mkpath(path("dir/horns.pdf"));
     const ProgramRun other({"print", writePlay("horns.zpf"), "-o", path("dir")});
     EXPECT_EQ(other.code, ExitCode::Failed);
-    EXPECT_THAT(other.err, HasSubstr("cannot be written"));
+    EXPECT_THAT(other.err, HasSubstr("dir/horns.pdf: "));
+}
+
+TEST_F(PrintCommand, DiskThatTakesNoMoreLeavesTheOldPages) {
+    write("horns.pdf", "the old pages");
+    const QString play = writePlay("horns.zpf");
+    const tests::ShortFiles full(10000);
+    const ProgramRun run({"print", play, "-o", path("horns.pdf")});
+    EXPECT_EQ(run.code, ExitCode::Failed);
+    EXPECT_THAT(run.err, HasSubstr("horns.zpf: "));
+    EXPECT_EQ(read("horns.pdf"), "the old pages");
+}
+
+TEST_F(PrintCommand, PlayIsNeverWrittenOver) {
+    const QByteArray before = QByteArray(kConfig) + kFrames;
+    const QString play = writePlay("horns.pdf");
+    EXPECT_THAT(ProgramRun({"print", play, "-o", path(".")}).err, HasSubstr("would be written over a play"));
+    EXPECT_EQ(read("horns.pdf"), before);
+    ASSERT_TRUE(QFile::link(play, path("link.pdf")));
+    const ProgramRun run({"print", play, "-o", path("link.pdf")});
+    EXPECT_EQ(run.code, ExitCode::Failed);
+    EXPECT_EQ(read("horns.pdf"), before) << "through a link";
+}
+
+TEST_F(PrintCommand, WordsOfOptionsMayBeInCapitals) {
+    const ProgramRun run(
+        {"print", writePlay("horns.zpf"), "--paper", "Letter", "-l", "SMALL", "-o", path("horns.pdf")});
+    EXPECT_EQ(run.code, ExitCode::Done) << run.err;
+    EXPECT_TRUE(outputOf("pdfinfo", {path("horns.pdf")}).contains("612 x 792"));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "render/board_art.h"
+#include "tests/output/short_files.h"
 #include "tests/zpf/command_fixture.h"
 #include "tools/zpf/play_desk.h"
 
@@ -140,6 +141,7 @@ TEST_F(RenderCommand, FolderThatCannotBeMadeIsTold) {
     const ProgramRun run = render({writePlay("horns.zpf")});
     EXPECT_EQ(run.code, ExitCode::Failed);
     EXPECT_THAT(run.err, HasSubstr("cannot make the folder"));
+    EXPECT_THAT(run.err, HasSubstr("out: Not a directory"));
 }
 
 TEST_F(RenderCommand, PictureThatCannotBeWrittenIsTold) {
@@ -147,6 +149,32 @@ TEST_F(RenderCommand, PictureThatCannotBeWrittenIsTold) {
     const ProgramRun run = render({writePlay("horns.zpf")});
     EXPECT_EQ(run.code, ExitCode::Failed);
     EXPECT_THAT(run.err, HasSubstr("horns-1.png"));
+}
+
+TEST_F(RenderCommand, DiskThatTakesNoMoreIsTold) {
+    for (const char* format : {"png", "bmp"}) {
+        const QString play = writePlay("horns.zpf");
+        const tests::ShortFiles full(500);
+        const ProgramRun run = render({play, "-f", format});
+        EXPECT_EQ(run.code, ExitCode::Failed);
+        EXPECT_THAT(run.err, HasSubstr(std::string("horns-1.") + format + ": File too large"));
+        EXPECT_THAT(pictures(), IsEmpty());
+    }
+}
+
+TEST_F(RenderCommand, PlayIsNeverWrittenOver) {
+    QDir().mkpath(path("out"));
+    const QString other = writePlay("out/horns-2.png");
+    const QByteArray before = read("out/horns-2.png");
+    const ProgramRun run = render({writePlay("horns.zpf"), other});
+    EXPECT_EQ(run.code, ExitCode::Failed);
+    EXPECT_THAT(run.err, HasSubstr("horns-2.png: would be written over a play"));
+    EXPECT_EQ(read("out/horns-2.png"), before);
+}
+
+TEST_F(RenderCommand, OneFrameIsOne) {
+    const QString play = write("one.zpf", QByteArray(kConfig) + "[Frame1]\r\nframe=1\r\noff0=1,2\r\n");
+    EXPECT_THAT(render({play, "-n", "2"}).err, HasSubstr("has only 1 frame\n"));
 }
 
 TEST_F(RenderCommand, SenselessWishesDrawNothing) {

@@ -55,6 +55,15 @@ TEST_F(ReportCommand, ReportThatCannotBeWrittenIsTold) {
     EXPECT_THAT(run.err, HasSubstr("site/horns/index.html"));
 }
 
+TEST_F(ReportCommand, PlayIsNeverWrittenOver) {
+    const QString play = writePlay("horns.html");
+    const ProgramRun run({"report", play, "-o", play});
+    EXPECT_EQ(run.code, ExitCode::Failed);
+    EXPECT_THAT(run.err, HasSubstr("would be written over a play"));
+    EXPECT_EQ(read("horns.html"), QByteArray(kConfig) + kFrames);
+    EXPECT_EQ(filesIn("."), QStringList("horns.html"));
+}
+
 TEST_F(ReportCommand, FileWithoutAFrameGetsNoPage) {
     const ProgramRun run({"report", write("letter.txt", "Dear coach\r\n"), "-o", path("site")});
     EXPECT_EQ(run.code, ExitCode::Failed);

@@ -6,13 +6,13 @@
 namespace zeltrona::zpf {
 namespace {
 
-constexpr OptionSpec kHelp{'h', "help", "", "show this help and end"};
+constexpr OptionForm kHelp{'h', "help", "", "show this help and end"};
 constexpr std::size_t kHelpColumn = 27;
 
 /// Goes through the words of a command line once.
 class Parser {
 public:
-    Parser(const CommandSpec& command, std::span<const std::string_view> words)
+    Parser(const CommandForm& command, std::span<const std::string_view> words)
         : m_command(command), m_words(words) {}
 
     Arguments parse() {
@@ -33,7 +33,7 @@ public:
     }
 
 private:
-    template<class Same> const OptionSpec* find(Same same) const {
+    template<class Same> const OptionForm* find(Same same) const {
         const auto found = std::find_if(m_command.options.begin(), m_command.options.end(), same);
         if (found != m_command.options.end()) {
             return &*found;
@@ -44,7 +44,7 @@ private:
     void takeLong(std::string_view text) {
         const std::size_t split = std::min(text.find('='), text.size());
         const std::string_view name = text.substr(0, split);
-        const OptionSpec* option = find([name](const OptionSpec& spec) { return spec.name == name; });
+        const OptionForm* option = find([name](const OptionForm& form) { return form.name == name; });
         if (option == nullptr) {
             m_result.fault = "unknown option '--" + std::string(name) + "'";
         } else if (split == text.size()) {
@@ -61,8 +61,8 @@ private:
         while (!letters.empty() && m_result.fault.empty()) {
             const char letter = letters.front();
             letters.remove_prefix(1);
-            const OptionSpec* option =
-                find([letter](const OptionSpec& spec) { return spec.letter == letter; });
+            const OptionForm* option =
+                find([letter](const OptionForm& form) { return form.letter == letter; });
             if (option == nullptr) {
                 m_result.fault = std::string("unknown option '-") + letter + "'";
             } else if (!option->argument.empty() && !letters.empty()) {
@@ -74,7 +74,7 @@ private:
         }
     }
 
-    void takeValue(const OptionSpec& option, const std::string& asGiven) {
+    void takeValue(const OptionForm& option, const std::string& asGiven) {
         std::string& value = m_result.options[std::string(option.name)];
         if (option.argument.empty()) {
             return;
@@ -86,13 +86,13 @@ private:
         value = m_words[m_at++];
     }
 
-    const CommandSpec& m_command;
+    const CommandForm& m_command;
     std::span<const std::string_view> m_words;
     std::size_t m_at = 0;
     Arguments m_result;
 };
 
-std::string optionHelp(const OptionSpec& option) {
+std::string optionHelp(const OptionForm& option) {
     std::string line = option.letter == '\0' ? "      " : std::string("  -") + option.letter + ", ";
     line.append("--").append(option.name);
     if (!option.argument.empty()) {
@@ -114,15 +114,22 @@ std::string Arguments::valueOf(std::string_view option, std::string_view fallbac
     return found == options.end() ? std::string(fallback) : found->second;
 }
 
-Arguments parseArguments(const CommandSpec& command, std::span<const std::string_view> words) {
+std::string Arguments::wordOf(std::string_view option, std::string_view fallback) const {
+    std::string word = valueOf(option, fallback);
+    std::transform(word.begin(), word.end(), word.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return word;
+}
+
+Arguments parseArguments(const CommandForm& command, std::span<const std::string_view> words) {
     return Parser(command, words).parse();
 }
 
-std::string helpText(const CommandSpec& command) {
+std::string helpText(const CommandForm& command) {
     std::string text = "Usage: zpf ";
     text.append(command.name).append(" [OPTION...] ").append(command.operands).append("\n");
     text.append(command.summary).append("\n\n");
-    for (const OptionSpec& option : command.options) {
+    for (const OptionForm& option : command.options) {
         text.append(optionHelp(option));
     }
     return text.append(optionHelp(kHelp));

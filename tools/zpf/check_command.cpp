@@ -3,6 +3,7 @@
 #include "tools/zpf/commands.h"
 #include "tools/zpf/json_list.h"
 #include "tools/zpf/play_facts.h"
+#include "tools/zpf/printable.h"
 
 #include <array>
 #include <ostream>
@@ -11,10 +12,10 @@ namespace zeltrona::zpf {
 namespace {
 
 constexpr std::array kOptions{
-    OptionSpec{'j', "json", "", "one JSON array with an object for each play"},
-    OptionSpec{'q', "quiet", "", "print nothing; the exit status tells"},
+    OptionForm{'j', "json", "", "one JSON array with an object for each play"},
+    OptionForm{'q', "quiet", "", "print nothing; the exit status tells"},
 };
-constexpr CommandSpec kSpec{
+constexpr CommandForm kForm{
     "check", "PLAY...",
     "Tell everything that would be lost, cut or ignored at load\n"
     "Prints a line for each finding: PLAY:LINE: [SECTION] KEY: what is wrong (its kind).\n"
@@ -25,14 +26,14 @@ ExitCode run(const Arguments& arguments, Streams streams) {
     const bool asJson = arguments.has("json") && !arguments.has("quiet");
     ExitCode found = ExitCode::Done;
     JsonList list(streams.out, asJson);
-    const ExitCode read = forEachPlay(kSpec, arguments, streams, [&](const std::string& path) -> std::string {
+    const ExitCode read = forEachPlay(kForm, arguments, streams, [&](const std::string& path) -> std::string {
         const document::PlayFile play(path);
         const CheckResult result = checkPlay(play);
         found = result.findings.empty() ? found : ExitCode::Found;
         if (asJson) {
             list.add(checkAsJson(path, result, charsetOf(play)));
         } else if (!arguments.has("quiet")) {
-            streams.out << checkAsText(path, result, charsetOf(play));
+            streams.out << printable(checkAsText(path, result, charsetOf(play)));
         }
         return {};
     });
@@ -42,7 +43,7 @@ ExitCode run(const Arguments& arguments, Streams streams) {
 } // namespace
 
 Command checkCommand() {
-    return {kSpec, run};
+    return {kForm, run};
 }
 
 } // namespace zeltrona::zpf

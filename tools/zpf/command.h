@@ -20,7 +20,7 @@ struct Streams {
 
 /// One subcommand. `run` gets arguments without a fault and with at least one operand, a play each.
 struct Command {
-    CommandSpec spec;
+    CommandForm form;
     ExitCode (*run)(const Arguments& arguments, Streams streams);
 };
 
@@ -28,11 +28,11 @@ struct Command {
 ExitCode runCommandLine(std::span<const std::string_view> words, Streams streams);
 
 /// Says what is wrong with the command line, and where help is.
-ExitCode usageFault(const CommandSpec& spec, Streams streams, std::string_view fault);
+ExitCode usageFault(const CommandForm& form, Streams streams, std::string_view fault);
 
 /// Runs `work` on one play after the other. It gives the reason of a failure in plain words, which is told
 /// with the play's name; the other plays go on. A play that cannot be read is told likewise.
-ExitCode forEachPlay(const CommandSpec& spec, const Arguments& arguments, Streams streams,
+ExitCode forEachPlay(const CommandForm& form, const Arguments& arguments, Streams streams,
                      const std::function<std::string(const std::string& path)>& work);
 
 } // namespace zeltrona::zpf

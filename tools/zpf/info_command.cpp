@@ -2,6 +2,7 @@
 #include "tools/zpf/commands.h"
 #include "tools/zpf/json_list.h"
 #include "tools/zpf/play_info.h"
+#include "tools/zpf/printable.h"
 
 #include <array>
 #include <ostream>
@@ -9,14 +10,14 @@
 namespace zeltrona::zpf {
 namespace {
 
-constexpr std::array kOptions{OptionSpec{'j', "json", "", "one JSON array with an object for each play"}};
-constexpr CommandSpec kSpec{"info", "PLAY...", "Tell title, court, teams and what stands in each frame",
+constexpr std::array kOptions{OptionForm{'j', "json", "", "one JSON array with an object for each play"}};
+constexpr CommandForm kForm{"info", "PLAY...", "Tell title, court, teams and what stands in each frame",
                             kOptions};
 
 ExitCode run(const Arguments& arguments, Streams streams) {
     const bool asJson = arguments.has("json");
     JsonList list(streams.out, asJson);
-    return forEachPlay(kSpec, arguments, streams, [&](const std::string& path) -> std::string {
+    return forEachPlay(kForm, arguments, streams, [&](const std::string& path) -> std::string {
         const document::PlayFile play(path);
         const PlayInfo info = readPlayInfo(play);
         if (info.frames.empty()) {
@@ -25,7 +26,7 @@ ExitCode run(const Arguments& arguments, Streams streams) {
         if (asJson) {
             list.add(infoAsJson(path, info));
         } else {
-            streams.out << infoAsText(path, info);
+            streams.out << printable(infoAsText(path, info));
         }
         return {};
     });
@@ -34,7 +35,7 @@ ExitCode run(const Arguments& arguments, Streams streams) {
 } // namespace
 
 Command infoCommand() {
-    return {kSpec, run};
+    return {kForm, run};
 }
 
 } // namespace zeltrona::zpf

@@ -16,11 +16,14 @@ public:
     explicit ProgressLine(Streams streams,
                           std::chrono::milliseconds patience = std::chrono::milliseconds(400))
         : m_streams(streams), m_showFrom(Clock::now() + patience) {}
-    ~ProgressLine();
+    ~ProgressLine() { clear(); }
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
 
+    /// A long name of a play is shortened, since a line that the terminal breaks cannot be written over.
     void show(std::string_view play, int frame, int frames);
+    /// Leaves an empty line to what is told next.
+    void clear();
 
 private:
     Streams m_streams;

@@ -1,8 +1,7 @@
+#include "document/whole_file.h"
 #include "output/web_report.h"
 #include "tools/zpf/commands.h"
-#include "tools/zpf/output_target.h"
-#include "tools/zpf/play_desk.h"
-#include "tools/zpf/progress_line.h"
+#include "tools/zpf/desk_command.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,11 +14,11 @@ namespace zeltrona::zpf {
 namespace {
 
 constexpr std::array kOptions{
-    OptionSpec{'o', "output", "WHERE",
+    OptionForm{'o', "output", "WHERE",
                "a folder, . when not given: each play gets WHERE/NAME/index.html;\n"
                "for one play also the page itself, WHERE.html; folders are made if need be"},
 };
-constexpr CommandSpec kSpec{"report", "PLAY...",
+constexpr CommandForm kForm{"report", "PLAY...",
                             "Write plays as web pages with their pictures\n"
                             "The pictures lie beside the page. Writes over what is there.",
                             kOptions};
@@ -32,41 +31,36 @@ QString pageOf(const OutputTarget& target, const QString& play) {
     return QFileInfo(page).absoluteFilePath();
 }
 
-std::string reportPlay(PlayDesk& desk, const QString& page) {
+std::string reportPlay(PlayDesk& desk, const QString& page, const OutputTarget& target) {
+    if (std::string reason = target.refusal(page); !reason.empty()) {
+        return reason;
+    }
     if (std::string reason = OutputTarget::makeFolder(QFileInfo(page).path()); !reason.empty()) {
         return reason;
     }
     const QImage logo(QStringLiteral(":/art/logo_export.png"));
-    return output::writeWebReport(desk.walk(), page, logo)
-               ? ""
-               : QFile::encodeName(page).toStdString() + ": the report cannot be written";
+    if (output::writeWebReport(desk.walk(), page, logo)) {
+        return {};
+    }
+    const std::string name = QFile::encodeName(page).toStdString();
+    const std::string reason = document::refusalToReplace(name);
+    return name + ": " + (reason.empty() ? "the page or a picture of it cannot be written" : reason);
 }
 
 ExitCode run(const Arguments& arguments, Streams streams) {
     OutputTarget target(arguments, {".html", ".htm"});
     if (const std::string fault = target.fault(); !fault.empty()) {
-        return usageFault(kSpec, streams, fault);
+        return usageFault(kForm, streams, fault);
     }
-    const render::BoardArt art = render::loadBoardArt();
-    ProgressLine progress(streams);
-    return forEachPlay(kSpec, arguments, streams, [&](const std::string& path) -> std::string {
-        const QString play = QFile::decodeName(path.c_str());
-        PlayDesk desk(path, art);
-        if (desk.frames() < 1) {
-            return "holds no frame";
-        }
-        if (std::string reason = target.claim(play); !reason.empty()) {
-            return reason;
-        }
-        desk.walk().progress = [&](int frame, int frames) { progress.show(path, frame, frames); };
-        return reportPlay(desk, pageOf(target, play));
+    return forEachDesk(kForm, arguments, streams, target, [&](PlayDesk& desk, const QString& play) {
+        return reportPlay(desk, pageOf(target, play), target);
     });
 }
 
 } // namespace
 
 Command reportCommand() {
-    return {kSpec, run};
+    return {kForm, run};
 }
 
 } // namespace zeltrona::zpf

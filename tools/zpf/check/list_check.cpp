@@ -2,6 +2,7 @@
 
 #include "document/field_list.h"
 #include "document/number_text.h"
+#include "tools/zpf/counted.h"
 
 #include <algorithm>
 
@@ -26,10 +27,6 @@ std::size_t fieldsOf(std::string_view list) {
     return list == "Shadow" ? 5 : 0;
 }
 
-std::string countOf(std::size_t count, const char* what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
-
 void checkClosingComma(const CheckDesk& desk, std::string_view key, std::string_view value) {
     const std::size_t comma = value.rfind(',');
     const std::string_view rest = comma == value.npos ? value : value.substr(comma + 1);
@@ -50,7 +47,7 @@ void checkNumbers(const CheckDesk& desk, std::string_view key, std::string_view 
     if (count > 0) {
         desk.add(FindingKind::NotANumber, key,
                  first + " is no number: it is skipped, and the next field takes its place"
-                     + (count > 1 ? " (" + countOf(count, "such field") + ")" : std::string()));
+                     + (count > 1 ? " (" + counted(count, "such field") + ")" : std::string()));
     }
 }
 
@@ -64,10 +61,10 @@ void checkFlag(const CheckDesk& desk, std::string_view key, const ListField& fie
 void checkFixedFields(const CheckDesk& desk, std::string_view key, std::size_t count, std::size_t wanted) {
     if (count < wanted) {
         desk.add(FindingKind::MissingField, key,
-                 countOf(count, "field") + " of " + std::to_string(wanted) + ": what is missing reads as 0");
+                 counted(count, "field") + " of " + std::to_string(wanted) + ": what is missing reads as 0");
     } else if (count > wanted) {
         desk.add(FindingKind::ExtraField, key,
-                 "only " + std::to_string(wanted) + " of its " + countOf(count, "field") + " are read");
+                 "only " + std::to_string(wanted) + " of its " + counted(count, "field") + " are read");
     }
 }
 
@@ -93,7 +90,7 @@ void checkTextFields(const CheckDesk& desk, std::string_view key, std::string_vi
     desk.checkCharacters(key);
     if (fields.size() > kTextFields) {
         desk.add(FindingKind::CommaInText, key,
-                 countOf(fields.size(), "field")
+                 counted(fields.size(), "field")
                      + " instead of 10: the text ends at its first comma, and all "
                      + "behind that is shifted");
         return;

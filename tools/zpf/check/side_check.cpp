@@ -2,6 +2,7 @@
 
 #include "document/frame_keys.h"
 #include "document/frame_records.h"
+#include "tools/zpf/counted.h"
 
 #include <algorithm>
 
@@ -9,10 +10,6 @@ namespace zeltrona::zpf {
 namespace {
 
 using document::TextBuffer;
-
-std::string playersOf(std::size_t count) {
-    return std::to_string(count) + (count == 1 ? " player" : " players");
-}
 
 /// Readers fill the places of a side one after the other, a save stores them by place.
 void checkMoveUp(const CheckDesk& desk, std::string_view key, std::size_t slot, const SideFacts& side) {
@@ -51,8 +48,8 @@ void checkTeamSize(const CheckDesk& desk, const SideFacts& side, std::size_t bef
     }
     const std::string name = side.side == "off" ? "offence" : "defence";
     const std::string frame = "frame " + std::to_string(frameBefore);
-    std::string text =
-        name + " has " + playersOf(side.players) + ", and " + playersOf(before) + " in " + frame;
+    std::string text = name + " has " + counted(side.players, "player") + ", and " + counted(before, "player")
+                       + " in " + frame;
     if (side.players == 0) {
         text += ": those stay on the board, and playback stops with an error";
     } else if (side.players < before) {
