@@ -67,6 +67,32 @@ TEST(ListCheck, LineWithoutAPointShowsNothing) {
                 ElementsAre("missing-field [Frame1] Line0 9", "missing-field [Frame1] Line1 10"));
 }
 
+TEST(ListCheck, LineOfOnePointShowsNothingEither) {
+    EXPECT_THAT(inFrame("Line0=4,0,0,10,20,\n"), ElementsAre("missing-field [Frame1] Line0 9"));
+    EXPECT_THAT(inFrame("Line0=4,0,0,10,20,30,40,\n"), IsEmpty());
+}
+
+TEST(ListCheck, StyleIsOneOfTheFive) {
+    for (const char* style : {"5", "-1", "1.5"}) {
+        EXPECT_THAT(inFrame("Line0=" + std::string(style) + ",0,0,1,2,3,4,\n"),
+                    ElementsAre("bad-value [Frame1] Line0 9"))
+            << style;
+    }
+    EXPECT_THAT(inFrame("Line0=4,0,0,1,2,3,4,\n"), IsEmpty());
+}
+
+TEST(ListCheck, ColourIsOne) {
+    for (const char* color : {"16777216", "-1", "0.5"}) {
+        const std::string one(color);
+        EXPECT_THAT(inFrame("Line0=4,0," + one + ",1,2,3,4,\n"), ElementsAre("bad-value [Frame1] Line0 9"));
+        EXPECT_THAT(inFrame("Triangle0=" + one + ",1,2,\n"), ElementsAre("bad-value [Frame1] Triangle0 9"));
+        EXPECT_THAT(inFrame("Shadow0=" + one + ",1,2,3,4,\n"), ElementsAre("bad-value [Frame1] Shadow0 9"));
+        EXPECT_THAT(inFrame("txtPic0=A,1,2,Arial,8," + one + ",0,0,0,0,\n"),
+                    ElementsAre("bad-value [Frame1] txtPic0 9"));
+    }
+    EXPECT_THAT(inFrame("Shadow0=16777215,1,2,3,4,\n"), IsEmpty());
+}
+
 TEST(ListCheck, CurvedIsOneOrZero) {
     EXPECT_THAT(inFrame("Line0=4,-1,0,1,2,3,4,\n"), ElementsAre("bad-value [Frame1] Line0 9"));
 }
@@ -86,7 +112,8 @@ TEST(ListCheck, LoneObjectThatEqualsTheEmptyStateCountsAsAbsent) {
     EXPECT_THAT(inFrame("Ball0=0,0,\n"), ElementsAre("empty-object [Frame1] Ball0 9"));
     EXPECT_THAT(inFrame("Triangle0=0,0,0,\n"), ElementsAre("empty-object [Frame1] Triangle0 9"));
     EXPECT_THAT(inFrame("Shadow0=255,0,0,0,0,\n"), ElementsAre("empty-object [Frame1] Shadow0 9"));
-    EXPECT_THAT(inFrame("Line0=0,0,9,0,1000,\n"), ElementsAre("empty-object [Frame1] Line0 9"));
+    EXPECT_THAT(inFrame("Line0=0,0,9,0,1000,\n"),
+                ElementsAre("missing-field [Frame1] Line0 9", "empty-object [Frame1] Line0 9"));
     EXPECT_THAT(inFrame("txtPic0=Hi,0,0,,8,0,0,0,0,0,\n"), ElementsAre("empty-object [Frame1] txtPic0 9"));
     EXPECT_THAT(inFrame("Ball0=0,0,\nBall1=0,0,\n"), IsEmpty()) << "two of them count";
     EXPECT_THAT(inFrame("Triangle0=255,0,0,\n"), IsEmpty());

@@ -5,6 +5,7 @@
 #include "tools/zpf/counted.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace zeltrona::zpf {
 namespace {
@@ -15,6 +16,7 @@ using document::TextBuffer;
 
 constexpr std::size_t kTextFields = 10;
 constexpr std::size_t kLineHead = 3; ///< style, curved and colour
+constexpr int kLastStyle = 4;
 
 /// Fields of a key of fixed length; 0 for a line and a text, which have rules of their own.
 std::size_t fieldsOf(std::string_view list) {
@@ -58,6 +60,20 @@ void checkFlag(const CheckDesk& desk, std::string_view key, const ListField& fie
     }
 }
 
+/// A whole number from 0 to `most`.
+void checkCode(const CheckDesk& desk, std::string_view key, const ListField& field, const char* what,
+               int most) {
+    if (field.number < 0 || field.number > most || field.number != std::floor(field.number)) {
+        desk.add(FindingKind::BadValue, key,
+                 std::string(what) + " " + desk.quoted(field.text) + " is no whole number from 0 to "
+                     + std::to_string(most));
+    }
+}
+
+void checkColor(const CheckDesk& desk, std::string_view key, const ListField& field) {
+    checkCode(desk, key, field, "colour", 0xFFFFFF);
+}
+
 void checkFixedFields(const CheckDesk& desk, std::string_view key, std::size_t count, std::size_t wanted) {
     if (count < wanted) {
         desk.add(FindingKind::MissingField, key,
@@ -75,11 +91,19 @@ void checkPairs(const CheckDesk& desk, std::string_view key, std::size_t coordin
 }
 
 void checkLineFields(const CheckDesk& desk, std::string_view key, const std::vector<ListField>& fields) {
+    if (!fields.empty()) {
+        checkCode(desk, key, fields[0], "style", kLastStyle);
+    }
     if (fields.size() > 1) {
         checkFlag(desk, key, fields[1], "curved");
     }
+    if (fields.size() > 2) {
+        checkColor(desk, key, fields[2]);
+    }
     if (fields.size() <= kLineHead) {
         desk.add(FindingKind::MissingField, key, "a line without points, which shows nothing");
+    } else if (fields.size() <= kLineHead + 2) {
+        desk.add(FindingKind::MissingField, key, "a line of one point, which shows nothing");
     } else {
         checkPairs(desk, key, fields.size() - kLineHead);
     }
@@ -102,6 +126,9 @@ void checkTextFields(const CheckDesk& desk, std::string_view key, std::string_vi
                      desk.quoted(fields[place].text) + " is no number: it reads as "
                          + document::singleText(document::toSingle(fields[place].number)));
         }
+    }
+    if (fields.size() > 5 && document::numericField(fields[5].text)) {
+        checkColor(desk, key, fields[5]);
     }
     for (std::size_t place = 6; place < fields.size(); ++place) {
         checkFlag(desk, key, fields[place], "style");
@@ -132,6 +159,9 @@ void checkListKey(const CheckDesk& desk, std::string_view key, const FrameKey& s
         checkLineFields(desk, key, fields);
     } else {
         checkFixedFields(desk, key, fields.size(), fieldsOf(shape.name));
+        if (shape.name != "Ball" && !fields.empty()) {
+            checkColor(desk, key, fields[0]);
+        }
     }
 }
 
