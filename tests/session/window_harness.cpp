@@ -20,6 +20,8 @@ namespace zeltrona::testing {
 namespace {
 
 constexpr int kPollMilliseconds = 5;
+constexpr int kFileRetryMilliseconds = 100;
+constexpr int kFileTries = 50;
 
 template<class T> T* dialogOf(QWidget& window, const char* what) {
     T* dialog = qobject_cast<T*>(&window);
@@ -61,6 +63,24 @@ void answerMessage(QWidget& window, const QString& text, const QString& button, 
         return;
     }
     QTest::mouseClick(pressed, Qt::LeftButton);
+}
+
+// A file dialog reads its folder beside the event loop and may pass over the first acceptance while it does.
+void acceptFile(QFileDialog& dialog, const QString& path, int tries) {
+    control<QLineEdit>(dialog, QStringLiteral("fileNameEdit")).setText(path);
+    static_cast<QDialog&>(dialog).accept();
+    if (!dialog.isVisible()) {
+        return;
+    }
+    if (tries == 0) {
+        ADD_FAILURE() << "the file dialog does not take " << qPrintable(path) << "; it stands in "
+                      << qPrintable(dialog.directory().path()) << " on "
+                      << qPrintable(dialog.selectedFiles().join(QLatin1Char('|')));
+        dialog.reject();
+        return;
+    }
+    QTimer::singleShot(kFileRetryMilliseconds, &dialog,
+                       [&dialog, path, tries] { acceptFile(dialog, path, tries - 1); });
 }
 
 } // namespace
@@ -154,8 +174,7 @@ void DialogAnswerer::expectFile(const QString& title, const QString& path) {
     expect([=](QWidget& window) {
         if (auto* dialog = dialogOf<QFileDialog>(window, "a file dialog")) {
             EXPECT_EQ(dialog->windowTitle().toStdString(), title.toStdString());
-            control<QLineEdit>(*dialog, QStringLiteral("fileNameEdit")).setText(path);
-            static_cast<QDialog*>(dialog)->accept();
+            acceptFile(*dialog, path, kFileTries);
         }
     });
 }
@@ -213,7 +232,11 @@ void DialogAnswerer::pollLater() {
 void DialogAnswerer::poll() {
     pollLater();
     QWidget* window = QApplication::activeModalWidget();
-    if (window == nullptr || !window->isVisible() || window == m_last) {
+    // A window that has only just come up may not be in its event loop yet: an answer would come too early to
+    // end it.
+    const bool settled = window != nullptr && window == m_seen;
+    m_seen = window;
+    if (!settled || !window->isVisible() || window == m_last) {
         return;
     }
     m_last = window;

@@ -79,7 +79,8 @@ private:
     void pollLater();
 
     std::deque<Answer> m_answers;
-    QPointer<QWidget> m_last;
+    QPointer<QWidget> m_seen; // at the poll before
+    QPointer<QWidget> m_last; // answered
     int m_answered = 0;
 };
 
