@@ -16,7 +16,8 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://www.zeltrona.example)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # What no library names: the plugin that draws the icons, and the font with the widths of Arial.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, fonts-liberation")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, shared-mime-info")
+# A window font that is no typewriter: where there is only the other font the toolkit takes its monospaced face.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, qt6-wayland, shared-mime-info")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "play board for basketball coaches")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Zeltrona draws basketball plays. A play is a numbered row of frames on a
 court: two teams, balls, movement lines, shades, texts, and runs recorded
