@@ -2,6 +2,7 @@
 
 #include "render/clip_box.h"
 #include "render/drawing_basics.h"
+#include "render/line_effort.h"
 
 #include <span>
 #include <vector>
@@ -19,10 +20,11 @@ void bezierPoint(PointI p0, PointI p1, PointI p2, PointI p3, document::PointF& p
 ///         it. One that is shorter than a step ends in its sample at t = 1.1, a little past its end.
 ///         No more than 32,003.
 /// Box:    the samples behind the last one that can be seen are left out; those that stay are the same.
+/// Effort: the walk ends, as at its longest, when the samples outside the box have used it up.
 /// Reason: distances are taken between neighbours, so the walk can't begin in the middle; where singles lie
 ///         further apart than a step, far outside any board, the cubic ends.
 void flattenBezierPath(std::span<const PointI> bezier, std::vector<document::PointF>& points,
-                       const ClipBox& box = {});
+                       const ClipBox& box = {}, LineEffort* effort = nullptr);
 
 /// Shifts a Bezier array sideways by lineWidth + 1 for the second line of a double curve. `shifted` is made
 /// anew. The shift goes by the octant of each end's slope and not along its normal: the twins may touch on

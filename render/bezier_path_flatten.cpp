@@ -83,7 +83,14 @@ struct Step {
     int j = 1;
 };
 
-CubicEnd sampleCubic(std::span<const PointI> p, std::vector<PointF>& points, const ClipBox* box) {
+/// What the walk has to know of the board.
+struct Sight {
+    const ClipBox& box;
+    LineEffort* effort;  ///< may be null
+    bool isLast = false; ///< nothing shows behind this cubic
+};
+
+CubicEnd sampleCubic(std::span<const PointI> p, std::vector<PointF>& points, const Sight& sight) {
     const PointF end = single(p[3]);
     Step step;
     points.push_back(points.back());
@@ -102,8 +109,13 @@ CubicEnd sampleCubic(std::span<const PointI> p, std::vector<PointF>& points, con
             }
         } else if (moved >= kPitchLength - kTolerance) {
             const PointF kept = sample;
-            if (box != nullptr && !isInside(*box, kept) && !mayShow(p, t, *box)) {
-                return CubicEnd::Unseen;
+            if (!isInside(sight.box, kept)) {
+                if (sight.isLast && !mayShow(p, t, sight.box)) {
+                    return CubicEnd::Unseen;
+                }
+                if (sight.effort != nullptr && !sight.effort->take(kCostOfUnseenSample)) {
+                    return CubicEnd::Full;
+                }
             }
             const bool isNearEnd = distance(kept, end) < kPitchLength + kTolerance;
             points.push_back(isNearEnd ? end : kept);
@@ -130,7 +142,8 @@ void bezierPoint(PointI p0, PointI p1, PointI p2, PointI p3, PointF& point, doub
     point.y = static_cast<float>(b0 * p0.y + b1 * p1.y + b2 * p2.y + b3 * p3.y);
 }
 
-void flattenBezierPath(std::span<const PointI> bezier, std::vector<PointF>& points, const ClipBox& box) {
+void flattenBezierPath(std::span<const PointI> bezier, std::vector<PointF>& points, const ClipBox& box,
+                       LineEffort* effort) {
     points.clear();
     if (bezier.empty()) {
         return;
@@ -138,8 +151,8 @@ void flattenBezierPath(std::span<const PointI> bezier, std::vector<PointF>& poin
     points.push_back(single(bezier[0]));
     const std::size_t count = isBeyondReach(points[0], box) ? 0 : cubicsThatMayShow(bezier, box);
     for (std::size_t k = 0; k < count; ++k) {
-        const bool isLast = k + 1 == count;
-        if (sampleCubic(bezier.subspan(k * 3, 4), points, isLast ? &box : nullptr) == CubicEnd::Full) {
+        const Sight sight{box, effort, k + 1 == count};
+        if (sampleCubic(bezier.subspan(k * 3, 4), points, sight) == CubicEnd::Full) {
             return;
         }
     }

@@ -117,14 +117,18 @@ double bulge(const Cubic& c, PointD point) {
 }
 
 void strokeBand(const PixelView& view, const Cubic& cubic, Pen pen) {
-    const auto isStraight = [](const Cubic& piece, const Bounds& bounds) {
+    // Beside a pen as wide as the board a piece of 64 pixels is a dot.
+    const double longest = std::max(64.0, 4.0 * pen.width);
+    const auto isStraight = [longest](const Cubic& piece, const Bounds& bounds) {
         constexpr double kFlat = 0.1;
         return bounds.longest() <= 0.5
-               || (bounds.longest() <= 64.0 && bulge(piece, piece[1]) <= kFlat
+               || (bounds.longest() <= longest && bulge(piece, piece[1]) <= kFlat
                    && bulge(piece, piece[2]) <= kFlat);
     };
-    cut(view, cubic, pen.width + 1.0, 0, isStraight,
-        [&](const Cubic& piece) { strokeWide(view, piece[0], piece[3], pen); });
+    bool whole = false;
+    cut(view, cubic, pen.width + 1.0, 0, isStraight, [&](const Cubic& piece) {
+        whole = whole || strokeWide(view, piece[0], piece[3], pen) == Stroke::Whole;
+    });
 }
 
 PointD placeOf(PointI point) {

@@ -5,6 +5,8 @@
 #include "render/line_style.h"
 #include "render/wave.h"
 
+#include <algorithm>
+
 namespace zeltrona::render {
 
 using document::LineRec;
@@ -38,32 +40,68 @@ std::vector<PointI> bezierOf(const LineRec& line, bool isEditing, PointF pointer
     return bezier;
 }
 
-void addBezier(LineDrawing& out, std::vector<PointI> points) {
-    out.primitives.push_back(BezierPrimitive{std::move(points), out.pen.drawWidth, out.pen.foreColor});
+PointF single(PointI p) {
+    return {static_cast<float>(p.x), static_cast<float>(p.y)};
+}
+
+/// How many of the cubics may show.
+std::int64_t countSeen(const std::vector<PointI>& bezier, const ClipBox& box) {
+    std::int64_t seen = 0;
+    for (std::size_t i = 0; i + 3 < bezier.size(); i += 3) {
+        const auto [left, right] =
+            std::minmax({bezier[i].x, bezier[i + 1].x, bezier[i + 2].x, bezier[i + 3].x});
+        const auto [top, bottom] =
+            std::minmax({bezier[i].y, bezier[i + 1].y, bezier[i + 2].y, bezier[i + 3].y});
+        seen += touches(box, single({left, top}), single({right, bottom})) ? 1 : 0;
+    }
+    return seen;
+}
+
+void addBezier(LineDrawing& out, std::vector<PointI> points, const ClipBox& box) {
+    if (out.effort.take(countSeen(points, box) * costOfCubic(out.pen.drawWidth))) {
+        out.primitives.push_back(BezierPrimitive{std::move(points), out.pen.drawWidth, out.pen.foreColor});
+        return;
+    }
+    for (std::size_t i = 0; i + 3 < points.size(); i += 3) {
+        out.primitives.push_back(
+            SegmentPrimitive{single(points[i]), single(points[i + 3]), out.pen.drawWidth, out.pen.foreColor});
+    }
+}
+
+/// Dashes or half waves along the curve; `cost` of one of them.
+template<class Add>
+void addSamples(LineDrawing& out, const std::vector<PointI>& bezier, const ClipBox& box, std::int64_t cost,
+                Add add) {
+    std::vector<PointF> samples;
+    flattenBezierPath(bezier, samples, box, &out.effort);
+    const auto seen = std::count_if(samples.begin(), samples.end(),
+                                    [&box](PointF sample) { return isInside(box, sample); });
+    if (out.effort.take(seen * cost)) {
+        add(out, samples, PitchFlag::Off, box, out.pen.foreColor);
+    } else {
+        addBezier(out, bezier, box);
+    }
 }
 
 void addBody(LineDrawing& out, const LineScene& scene, const LineRec& line,
              const std::vector<PointI>& bezier) {
     const ClipBox box = seenBox(scene, out.pen);
-    std::vector<PointF> samples;
     std::vector<PointI> twin;
     switch (line.style) {
     case kPlainStyle:
     case kBarStyle:
-        addBezier(out, bezier);
+        addBezier(out, bezier, box);
         break;
     case kDashStyle:
-        flattenBezierPath(bezier, samples, box);
-        addDashes(out, samples, PitchFlag::Off, box, line.color);
+        addSamples(out, bezier, box, costOfDash(out.pen.drawWidth), addDashes);
         break;
     case kWaveStyle:
-        flattenBezierPath(bezier, samples, box);
-        addWave(out, samples, PitchFlag::Off, box, line.color);
+        addSamples(out, bezier, box, costOfHalfWave(out.pen.drawWidth), addWave);
         break;
     case kDoubleStyle:
-        addBezier(out, bezier);
+        addBezier(out, bezier, box);
         offsetBezierPath(bezier, twin, scene.lineWidth);
-        addBezier(out, std::move(twin));
+        addBezier(out, std::move(twin), box);
         break;
     default:
         break;

@@ -26,20 +26,24 @@ void drawSegments(LineDrawing& out, const LineScene& scene, float pointerX, floa
 
 } // namespace
 
+void drawPath(LineDrawing& out, const LineScene& scene, float pointerX, float pointerY, int lineIndex) {
+    const LineRec& line = lineAt(scene, lineIndex);
+    if (line.pts.empty()) {
+        return;
+    }
+    if (line.curved) {
+        drawCurveLine(out, scene, pointerX, pointerY, lineIndex, lineIndex == scene.editLineIndex);
+    } else {
+        drawSegments(out, scene, pointerX, pointerY, lineIndex);
+    }
+}
+
 void drawPaths(LineDrawing& out, const LineScene& scene, float pointerX, float pointerY) {
     if (!document::hasLines(scene.lines)) {
         return;
     }
     for (int i = 0; i < static_cast<int>(scene.lines.size()); ++i) {
-        const LineRec& line = lineAt(scene, i);
-        if (line.pts.empty()) {
-            continue;
-        }
-        if (line.curved) {
-            drawCurveLine(out, scene, pointerX, pointerY, i, i == scene.editLineIndex);
-        } else {
-            drawSegments(out, scene, pointerX, pointerY, i);
-        }
+        drawPath(out, scene, pointerX, pointerY, i);
     }
 }
 

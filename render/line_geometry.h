@@ -23,6 +23,9 @@ struct LineScene {
 /// All lines; nothing when there is no line.
 void drawPaths(LineDrawing& out, const LineScene& scene, float pointerX, float pointerY);
 
+/// One line. A line without points shows nothing.
+void drawPath(LineDrawing& out, const LineScene& scene, float pointerX, float pointerY, int lineIndex);
+
 /// One segment of a line that isn't curved, with the line's end when it is the last. `toIndex` -1: to the
 /// pointer. A dashed segment of no length shows nothing, its end neither, and leaves the pen at the lines'
 /// width.

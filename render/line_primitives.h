@@ -2,6 +2,7 @@
 
 #include "document/records.h"
 #include "render/drawing_basics.h"
+#include "render/line_effort.h"
 
 #include <array>
 #include <variant>
@@ -64,6 +65,7 @@ using LinePrimitive = std::variant<SegmentPrimitive, ArcPrimitive, PolygonPrimit
 ///         So the pen goes in as it stands on the surface, and comes out as the surface keeps it.
 struct LineDrawing {
     LinePen pen;
+    LineEffort effort; ///< dashes, waves and curves that it can't pay any more are plain straight stretches
     std::vector<LinePrimitive> primitives;
 };
 

@@ -13,22 +13,23 @@ using document::PointF;
 
 namespace {
 
-/// The visible points of a cut segment, and the flag that the walk has when it comes to them.
-struct CutSegment {
-    std::vector<PointF> points;
-    PitchFlag flag = PitchFlag::Off;
-};
-
-CutSegment cutVisible(PointF from, PointF to, const ClipBox& box) {
-    const PitchWindow window = visiblePitches(from.x, from.y, to.x, to.y, box);
-    CutSegment cut;
-    subdivideSegment(cut.points, from.x, from.y, to.x, to.y, 1, window);
-    cut.flag = window.first % 2 == 0 ? PitchFlag::Off : PitchFlag::On;
-    return cut;
-}
-
 void addSegment(LineDrawing& out, PointF from, PointF to, Color color) {
     out.primitives.push_back(SegmentPrimitive{from, to, out.pen.drawWidth, color});
+}
+
+/// The visible dashes or half waves of a segment; `cost` of one of its pitches.
+template<class Add>
+void addPitches(LineDrawing& out, PointF from, PointF to, const ClipBox& box, Color color, std::int64_t cost,
+                Add add) {
+    const PitchWindow window = visiblePitches(from.x, from.y, to.x, to.y, box);
+    const std::int64_t pitches = window.last - window.first;
+    if (pitches > 0 && !out.effort.take(pitches * cost)) {
+        addSegment(out, from, to, color);
+        return;
+    }
+    std::vector<PointF> points;
+    subdivideSegment(points, from.x, from.y, to.x, to.y, 1, window);
+    add(out, points, window.first % 2 == 0 ? PitchFlag::Off : PitchFlag::On, box, color);
 }
 
 PointF shifted(PointF p, double x, double y) {
@@ -59,11 +60,9 @@ bool addBody(LineDrawing& out, const LineScene& scene, PointF from, PointF to, C
         if (pitchUpperBound(from.x, from.y, to.x, to.y) == 0) {
             return false;
         }
-        const CutSegment cut = cutVisible(from, to, box);
-        addDashes(out, cut.points, cut.flag, box, color);
+        addPitches(out, from, to, box, color, costOfDash(out.pen.drawWidth), addDashes);
     } else if (style == kWaveStyle) {
-        const CutSegment cut = cutVisible(from, to, box);
-        addWave(out, cut.points, cut.flag, box, color);
+        addPitches(out, from, to, box, color, costOfHalfWave(out.pen.drawWidth), addWave);
     } else {
         addSegment(out, from, to, color);
         if (style == kDoubleStyle) {

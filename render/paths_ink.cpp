@@ -43,17 +43,33 @@ struct Ink {
     }
 };
 
+LineEffort effortFor(const std::vector<document::LineRec>& lines) {
+    std::size_t points = 0;
+    for (const document::LineRec& line : lines) {
+        points += line.pts.size();
+    }
+    return LineEffort::forPoints(points);
+}
+
 } // namespace
 
 void drawPaths(Board& board, const Scene& scene, float pointerX, float pointerY) {
+    if (!document::hasLines(scene.frame.lines)) {
+        return;
+    }
     BoardSurface& pic = board.pic;
     const ClipBox box{0, 0, static_cast<double>(pic.width()), static_cast<double>(pic.height())};
     LineDrawing drawing;
     drawing.pen = penOf(pic.state);
-    drawPaths(drawing, {scene.frame.lines, scene.session.lineWidth, scene.editLineIndex, box}, pointerX,
-              pointerY);
-    for (const LinePrimitive& primitive : drawing.primitives) {
-        std::visit(Ink{pic}, primitive);
+    drawing.effort = effortFor(scene.frame.lines);
+    const LineScene lines{scene.frame.lines, scene.session.lineWidth, scene.editLineIndex, box};
+    // Line by line: the pieces of thousands of lines at once would fill the memory.
+    for (int i = 0; i < static_cast<int>(scene.frame.lines.size()); ++i) {
+        drawing.primitives.clear();
+        drawPath(drawing, lines, pointerX, pointerY, i);
+        for (const LinePrimitive& primitive : drawing.primitives) {
+            std::visit(Ink{pic}, primitive);
+        }
     }
     setPen(pic.state, drawing.pen);
 }

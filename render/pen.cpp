@@ -1,6 +1,7 @@
 #include "render/pen.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <utility>
@@ -152,13 +153,42 @@ void fillReach(const PixelView& view, int y, const Reach& reach, std::uint32_t p
     fillSpan(view, y, left, right, pixel);
 }
 
+/// How far a place is from the stretch between two others, squared.
+double squaredDistance(PointD place, PointD from, PointD to) {
+    const PointD along{to.x - from.x, to.y - from.y};
+    const PointD way{place.x - from.x, place.y - from.y};
+    const double squared = along.x * along.x + along.y * along.y;
+    const double part = squared == 0.0 ? 0.0 : (way.x * along.x + way.y * along.y) / squared;
+    const double foot = std::clamp(part, 0.0, 1.0);
+    const double x = way.x - foot * along.x;
+    const double y = way.y - foot * along.y;
+    return x * x + y * y;
+}
+
+/// Whether the stroke holds all of the view: it has no dents, so that its four corners tell.
+bool coversAll(const PixelView& view, PointD from, PointD to, double radius) {
+    const double right = view.width - 1.0;
+    const double bottom = view.height - 1.0;
+    if (radius < std::min(right, bottom) / 2.0) {
+        return false;
+    }
+    const std::array corners{PointD{0.0, 0.0}, PointD{right, 0.0}, PointD{0.0, bottom},
+                             PointD{right, bottom}};
+    return std::all_of(corners.begin(), corners.end(),
+                       [&](PointD corner) { return squaredDistance(corner, from, to) < radius * radius; });
+}
+
 } // namespace
 
-void strokeWide(const PixelView& view, PointD from, PointD to, Pen pen) {
+Stroke strokeWide(const PixelView& view, PointD from, PointD to, Pen pen) {
     const double lean = pen.width % 2 == 0 ? -0.5 : 0.0;
     const double radius = std::max(pen.width, 1) / 2.0;
     from = {from.x + lean, from.y + lean};
     to = {to.x + lean, to.y + lean};
+    if (coversAll(view, from, to, radius)) {
+        fillAll(view, pen.pixel);
+        return Stroke::Whole;
+    }
     const double top = std::max(std::ceil(std::min(from.y, to.y) - radius), 0.0);
     const double bottom = std::min(std::floor(std::max(from.y, to.y) + radius), view.height - 1.0);
     const Bar bar(from, to, radius);
@@ -169,6 +199,7 @@ void strokeWide(const PixelView& view, PointD from, PointD to, Pen pen) {
         bar.addTo(reach, y);
         fillReach(view, static_cast<int>(y), reach, pen.pixel);
     }
+    return Stroke::Part;
 }
 
 void strokeDisc(const PixelView& view, PointD at, Pen pen) {

@@ -24,8 +24,11 @@ struct PointD {
 ///          angle, with round ends; a pen of even width leans up and left by half a pixel.
 void strokeSegment(const PixelView& view, PointI from, PointI to, Pen pen);
 
+/// Whether a stroke has filled the whole view, so that more of its colour changes nothing.
+enum class Stroke { Part, Whole };
+
 /// The wide stroke of strokeSegment between places that need not be whole.
-void strokeWide(const PixelView& view, PointD from, PointD to, Pen pen);
+Stroke strokeWide(const PixelView& view, PointD from, PointD to, Pen pen);
 
 /// The wide pen set down once, on a place that need not be whole.
 void strokeDisc(const PixelView& view, PointD at, Pen pen);

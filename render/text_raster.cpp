@@ -1,17 +1,24 @@
 #include "render/text_raster.h"
 
+#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
 #include <QStringList>
 
 #include <algorithm>
+#include <utility>
 
 namespace zeltrona::render {
 
 namespace {
 
-constexpr int kMostShapes = 256;
+/// Runs of all shapes that are kept, about 12 megabytes: a play of a thousand texts prints them again and
+/// again.
+constexpr std::size_t kMostKept = 1024UL * 1024;
+/// The machine takes a thousandth of a second to find a substitute for a font that it lacks. A play that
+/// names more fonts than this gets only those that are there, and Arial for the others.
+constexpr int kMostNames = 32;
 /// A text larger than this is drawn afresh each time, and only where it shows.
 constexpr std::int64_t kMostInk = 64 * 1024;
 
@@ -54,6 +61,26 @@ QImage pictureOf(const SurfaceFont& font, const QString& text, const QRect& area
     return picture;
 }
 
+bool isDrawn(QRgb pixel) {
+    return qAlpha(pixel) >= 128; // an engine that smooths all the same is cut to drawn or not
+}
+
+/// The end of the pixels from `x` on that are drawn like the one there. Most of a large text is far from any
+/// edge, so that eight at a time are looked at first.
+int endOfRun(const QRgb* row, int x, int width) {
+    const bool drawn = isDrawn(row[x]);
+    for (bool alike = true; alike && x + 8 <= width;) {
+        for (int i = 0; i < 8; ++i) {
+            alike = alike & (isDrawn(row[x + i]) == drawn);
+        }
+        x += alike ? 8 : 0;
+    }
+    while (x < width && isDrawn(row[x]) == drawn) {
+        ++x;
+    }
+    return x;
+}
+
 } // namespace
 
 std::vector<TextRaster::Run> TextRaster::inkOf(const SurfaceFont& font, const QString& text,
@@ -62,17 +89,12 @@ std::vector<TextRaster::Run> TextRaster::inkOf(const SurfaceFont& font, const QS
     std::vector<Run> ink;
     for (int y = 0; y < picture.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        bool inside = false;
-        for (int x = 0; x < picture.width(); ++x) {
-            const bool drawn =
-                qAlpha(row[x]) >= 128; // an engine that smooths all the same is cut to drawn or not
-            if (drawn && !inside) {
-                ink.push_back({area.x() + x, area.y() + y, 0});
+        for (int x = 0; x < picture.width();) {
+            const int end = endOfRun(row, x, picture.width());
+            if (isDrawn(row[x])) {
+                ink.push_back({area.x() + x, area.y() + y, end - x});
             }
-            if (drawn) {
-                ++ink.back().length;
-            }
-            inside = drawn;
+            x = end;
         }
     }
     return ink;
@@ -94,19 +116,41 @@ void TextRaster::paint(const PixelView& view, const std::vector<Run>& ink, std::
     }
 }
 
-const TextRaster::Shape& TextRaster::remembered(const SurfaceFont& font, const QString& text) {
-    const Key key{font, text};
+const TextRaster::Shape& TextRaster::remembered(const Key& key) {
     if (const auto found = m_shapes.constFind(key); found != m_shapes.constEnd()) {
         return *found;
     }
-    if (m_shapes.size() >= kMostShapes) {
+    Shape shape = key.area.isEmpty() ? shapeOf(key.font, key.text)
+                                     : Shape{{}, true, inkOf(key.font, key.text, key.area)};
+    constexpr std::size_t kForKey = 32;
+    const std::size_t room = shape.ink.size() + static_cast<std::size_t>(key.text.size()) + kForKey;
+    if (m_kept + room > kMostKept) {
         m_shapes.clear();
+        m_kept = 0;
     }
-    return *m_shapes.insert(key, shapeOf(font, text));
+    m_kept += room;
+    return *m_shapes.insert(key, std::move(shape));
+}
+
+SurfaceFont TextRaster::asked(const SurfaceFont& font) {
+    if (m_names.contains(font.name)) {
+        return font;
+    }
+    if (m_names.size() < kMostNames) {
+        m_names.insert(font.name);
+        return font;
+    }
+    if (m_families.isEmpty()) {
+        const QStringList families = QFontDatabase::families();
+        m_families = QSet<QString>(families.begin(), families.end());
+    }
+    SurfaceFont known = font;
+    known.name = m_families.contains(font.name) ? font.name : SurfaceFont{}.name;
+    return known;
 }
 
 TextSize TextRaster::measure(const SurfaceFont& font, const QString& text) {
-    return remembered(font, text).size;
+    return remembered({asked(font), text}).size;
 }
 
 void TextRaster::draw(const PixelView& view, const SurfaceFont& font, const QString& text, std::int64_t x,
@@ -114,11 +158,12 @@ void TextRaster::draw(const PixelView& view, const SurfaceFont& font, const QStr
     if (text.isEmpty()) {
         return;
     }
-    const Shape& shape = remembered(font, text);
+    const SurfaceFont found = asked(font);
+    const Shape& shape = remembered({found, text});
     if (shape.isWhole) {
         paint(view, shape.ink, x, y, pixel);
     } else {
-        drawLarge(view, font, text, x, y, pixel);
+        drawLarge(view, found, text, x, y, pixel);
     }
 }
 
@@ -133,7 +178,7 @@ void TextRaster::drawLarge(const PixelView& view, const SurfaceFont& font, const
         QRect shown;
         shown.setCoords(static_cast<int>(left), static_cast<int>(top), static_cast<int>(right),
                         static_cast<int>(bottom));
-        paint(view, inkOf(font, text, shown), x, y, pixel);
+        paint(view, remembered({font, text, shown}).ink, x, y, pixel);
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QRect>
+#include <QSet>
 #include <QString>
 
 #include <cstdint>
@@ -31,9 +32,10 @@ private:
     struct Key {
         SurfaceFont font;
         QString text;
+        QRect area = {}; ///< the part that shows, of a text too large to keep whole
         friend bool operator==(const Key&, const Key&) = default;
         friend size_t qHash(const Key& key, size_t seed) {
-            return qHashMulti(seed, key.font.name, key.font.size, key.text);
+            return qHashMulti(seed, key.font.name, key.font.size, key.text, key.area.left(), key.area.top());
         }
     };
     /// Neighbouring pixels of a row; places are relative to the left top corner of the block.
@@ -53,9 +55,14 @@ private:
                       std::uint32_t pixel);
     void drawLarge(const PixelView& view, const SurfaceFont& font, const QString& text, std::int64_t x,
                    std::int64_t y, std::uint32_t pixel);
-    const Shape& remembered(const SurfaceFont& font, const QString& text);
+    const Shape& remembered(const Key& key);
+    /// The font, with a name that is worth asking the machine for.
+    SurfaceFont asked(const SurfaceFont& font);
 
     QHash<Key, Shape> m_shapes;
+    std::size_t m_kept = 0; ///< what the shapes take up, in runs
+    QSet<QString> m_names;  ///< the first font names that were asked for
+    QSet<QString> m_families;
 };
 
 } // namespace zeltrona::render

@@ -165,6 +165,27 @@ TEST(Text, RememberedShapesAreTheSameAsFreshOnes) {
     EXPECT_EQ(surface.image(), printed(QStringLiteral("399"), sized(8)).image());
 }
 
+TEST(Text, OfMoreFontsThanAnyBoardHasIsPrintedInThoseThatAreThere) {
+    BoardSurface surface(300, 200);
+    const auto widthIn = [&surface](const QString& name) {
+        surface.state.font = sized(20);
+        surface.state.font.name = name;
+        return surface.textWidth(QStringLiteral("Screen away"));
+    };
+    const int arial = widthIn(QStringLiteral("Arial"));
+    const QString family = QFontInfo(QFont(QStringLiteral("monospace"))).family();
+    BoardSurface fresh(300, 200);
+    fresh.state.font = sized(20);
+    fresh.state.font.name = family;
+    const int wide = fresh.textWidth(QStringLiteral("Screen away"));
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_GT(widthIn(QStringLiteral("No machine has font %1").arg(i)), 0);
+    }
+    EXPECT_EQ(widthIn(QStringLiteral("No machine has this one")), arial);
+    EXPECT_EQ(widthIn(family), wide);
+    EXPECT_EQ(widthIn(QStringLiteral("Arial")), arial);
+}
+
 TEST(Text, PrintLeavesThePlaceAndState) {
     BoardSurface surface(100, 100);
     const DrawingState before = surface.state;
