@@ -167,7 +167,7 @@ void frmMainFullScreen::updatePic() {
 }
 
 void frmMainFullScreen::updateFrameCurr(const QString& text) {
-    pToolAnim->animlblFrameCurr->setText(text);
+    pToolAnim->showCounter(text);
 }
 
 void frmMainFullScreen::showRunning(bool running) {

@@ -1,5 +1,6 @@
 #include "animation/transport_bar.h"
 
+#include "platform/spoken_caption.h"
 #include "platform/themed_icon.h"
 
 #include <QEvent>
@@ -92,6 +93,11 @@ void TransportBar::makeCounter() {
     animlblFrameCurr->setFixedWidth(
         animlblFrameCurr->fontMetrics().horizontalAdvance(QStringLiteral("888/888")));
     rowOf(this)->addWidget(animlblFrameCurr);
+}
+
+void TransportBar::showCounter(const QString& text) {
+    animlblFrameCurr->setText(text);
+    platform::speakCaption(*animlblFrameCurr);
 }
 
 void TransportBar::showRunning(bool running) {

@@ -29,6 +29,8 @@ public:
     QCheckBox* animCheckLoop;
     QLabel* animlblFrameCurr;
 
+    /// The counter's text, which is what a listener hears of it too.
+    void showCounter(const QString& text);
     /// Marks Play while ticks come.
     void showRunning(bool running);
 

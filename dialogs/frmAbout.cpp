@@ -3,6 +3,7 @@
 #include "dialogs/form_controls.h"
 #include "platform/message_box.h"
 #include "platform/program_fonts.h"
+#include "platform/spoken_caption.h"
 #include "platform/system_info.h"
 
 #include <QCoreApplication>
@@ -48,6 +49,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     grid->addWidget(close, 4, 2);
     grid->setColumnStretch(1, 1);
     grid->setHorizontalSpacing(kEdge);
+    platform::speakCaptions(*this);
 }
 
 void frmAbout::StartSysInfo() {

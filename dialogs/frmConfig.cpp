@@ -9,6 +9,8 @@
 #include "platform/common_dialog.h"
 #include "platform/message_box.h"
 #include "platform/program_fonts.h"
+#include "platform/spoken_caption.h"
+#include "platform/swatch.h"
 #include "render/board_surface.h"
 
 #include <QButtonGroup>
@@ -59,6 +61,7 @@ frmConfig::frmConfig(document::PlayFile& play, const document::Session& session,
     drawLinePreview();
     chooseFirstPlayers();
     m_missingCaption = setTeamCaptions();
+    platform::speakCaptions(*this);
     m_offence->enableSuitButtons(false);
     m_defence->enableSuitButtons(false);
 }
@@ -176,9 +179,7 @@ void frmConfig::drawLinePreview() {
     surface.state.drawWidth = m_newLineWidth;
     surface.line(10, 8, 156, 8, m_newLineColor);
     m_sample->setPixmap(QPixmap::fromImage(surface.image()));
-    QPixmap swatch(16, 16);
-    swatch.fill(platform::colorOfValue(m_newLineColor));
-    m_lineColor->setIcon(swatch);
+    m_lineColor->setIcon(platform::swatch(platform::colorOfValue(m_newLineColor)));
 }
 
 void frmConfig::optBodyType_Click(int index) {

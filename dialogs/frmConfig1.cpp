@@ -6,6 +6,7 @@
 #include "dialogs/write_failure.h"
 #include "document/setup_writer.h"
 #include "platform/common_dialog.h"
+#include "platform/spoken_caption.h"
 #include "platform/themed_icon.h"
 
 #include <QButtonGroup>
@@ -69,6 +70,7 @@ frmConfig1::frmConfig1(document::PlayFile& play, document::Session& session, QWi
     grid->setColumnStretch(1, 1);
     showCourtPreview();
     m_missingCaption = setCourtCaptions();
+    platform::speakCaptions(*this);
 }
 
 QWidget* frmConfig1::buildPreview() {

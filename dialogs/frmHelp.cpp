@@ -1,6 +1,8 @@
 #include "dialogs/frmHelp.h"
 
 #include "dialogs/form_controls.h"
+#include "platform/spoken_caption.h"
+#include "platform/themed_icon.h"
 
 #include <QFile>
 #include <QGridLayout>
@@ -47,7 +49,7 @@ frmHelp::~frmHelp() {
 
 void frmHelp::buildControls() {
     m_back = named(new QToolButton, "cmdBack", QStringLiteral("Back to the topic before"));
-    m_back->setText(QStringLiteral("Back"));
+    m_back->setText(QStringLiteral("&Back"));
     m_back->setEnabled(false);
     m_search = named(new QLineEdit, "txtSearch", QStringLiteral("Search the help"));
     m_search->setPlaceholderText(QStringLiteral("Search"));
@@ -56,7 +58,9 @@ void frmHelp::buildControls() {
     m_topic = named(new QTextBrowser, "txtTopic", QStringLiteral("Help topic"));
     m_topic->setOpenLinks(false);
     m_topic->document()->setDefaultStyleSheet(
-        QStringLiteral("h1 { color: #D9622B; } td { vertical-align: middle; }"));
+        QStringLiteral("h1 { color: #D9622B; } td { vertical-align: middle; } a { color: %1; }")
+            .arg(platform::isDark(palette()) ? QStringLiteral("#F2A27C") : QStringLiteral("#9A3B10")));
+    m_topic->document()->setDocumentMargin(kEdge);
 
     connect(m_contents, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
         if (item != nullptr) {
@@ -78,8 +82,7 @@ void frmHelp::buildControls() {
     grid->addWidget(m_topic, 1, 1);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(1, 1);
-    m_contents->setFixedWidth(260);
-    m_search->setFixedWidth(260);
+    platform::speakCaptions(*this);
 }
 
 bool frmHelp::fillContents() {
@@ -88,6 +91,10 @@ bool frmHelp::fillContents() {
         auto* item = new QListWidgetItem(line.section(u'\t', 1), m_contents);
         item->setData(kPageRole, line.section(u'\t', 0, 0));
     }
+    // The longest topic stands whole, with a fifth of room to spare, in the user's own letters.
+    const int width = m_contents->sizeHintForColumn(0) * 6 / 5;
+    m_contents->setFixedWidth(width);
+    m_search->setFixedWidth(width);
     return !lines.isEmpty();
 }
 

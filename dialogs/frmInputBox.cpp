@@ -3,6 +3,7 @@
 #include "dialogs/form_controls.h"
 #include "dialogs/play_font.h"
 #include "dialogs/text_limits.h"
+#include "platform/spoken_caption.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -34,6 +35,7 @@ frmInputBox::frmInputBox(const QString& fontName, std::int16_t charset, QWidget*
     row->setSpacing(kGap);
     row->addWidget(m_text);
     row->addWidget(done);
+    platform::speakCaptions(*this);
 }
 
 } // namespace zeltrona::dialogs

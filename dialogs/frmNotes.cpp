@@ -6,6 +6,7 @@
 #include "dialogs/play_font.h"
 #include "document/code_page.h"
 #include "document/user_texts.h"
+#include "platform/spoken_caption.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -22,6 +23,7 @@ frmNotes::frmNotes(document::PlayFile& play, document::Session& session, QWidget
     setModal(true);
     buildControls();
     setNotesCaptions();
+    platform::speakCaptions(*this);
     const PlayFont font = readPlayFont(this, play);
     m_session.fontCharset = font.charset;
     showFont(font.name);

@@ -6,6 +6,7 @@
 #include "dialogs/play_font.h"
 #include "document/code_page.h"
 #include "document/user_texts.h"
+#include "platform/spoken_caption.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -25,6 +26,7 @@ frmTitle::frmTitle(document::PlayFile& play, document::Session& session, QWidget
     showCaptions(session, {{15, [this](const QString& text) { m_titleLabel->setText(text); }},
                            {16, [this](const QString& text) { m_descriptionLabel->setText(text); }},
                            {3, [this](const QString& text) { m_next->setText(text); }}});
+    platform::speakCaptions(*this);
     const PlayFont font = readPlayFont(this, play);
     m_session.fontCharset = font.charset;
     showFont(font.name);

@@ -2,6 +2,7 @@
 
 #include "dialogs/captions.h"
 #include "dialogs/form_controls.h"
+#include "platform/spoken_caption.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -39,6 +40,7 @@ frmTxtMsg::frmTxtMsg(document::Session& session, QWidget* parent) : QDialog(pare
     grid->addWidget(quiet, 1, 0);
     grid->addWidget(button, 1, 1, Qt::AlignRight);
     grid->setColumnStretch(0, 1);
+    platform::speakCaptions(*this);
 }
 
 } // namespace zeltrona::dialogs

@@ -6,6 +6,7 @@
 #include "document/code_page.h"
 #include "platform/color_value.h"
 #include "platform/common_dialog.h"
+#include "platform/swatch.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -23,12 +24,6 @@ constexpr std::int16_t kNewPlayCharset = 238;
 constexpr int kLabelLength = 2;
 constexpr int kLastLabelLength = 8;
 constexpr int kSlots = static_cast<int>(document::kSlotCount);
-
-QIcon swatch(document::Color color) {
-    QPixmap pixmap(16, 16);
-    pixmap.fill(platform::colorOfValue(color));
-    return pixmap;
-}
 
 } // namespace
 
@@ -100,6 +95,7 @@ QWidget* TeamCard::buildRow(const TeamCardNames& names, int slot) {
     r.picture = named(new QLabel, element(names.picture), player + QStringLiteral(": how he looks"));
     r.skinButton = named(new QToolButton, element(names.suit), player + QStringLiteral(": skin colour"));
     const bool last = slot == kSlots - 1;
+    r.check->setToolTip(QStringLiteral("This player is in the team"));
     r.label->setMaxLength(last ? kLastLabelLength : kLabelLength);
     r.label->setFixedWidth(r.label->fontMetrics().horizontalAdvance(QStringLiteral("MMMMMMMM")) + 12);
     r.picture->setFixedSize(kPreviewSide, kPreviewSide);
@@ -217,10 +213,10 @@ bool TeamCard::askColor(document::Color& color) {
 }
 
 void TeamCard::showSwatches() {
-    m_teamColor->setIcon(swatch(m_suit));
-    m_textColor->setIcon(swatch(m_font));
+    m_teamColor->setIcon(platform::swatch(platform::colorOfValue(m_suit)));
+    m_textColor->setIcon(platform::swatch(platform::colorOfValue(m_font)));
     for (Row& r : m_rows) {
-        r.skinButton->setIcon(swatch(r.skin));
+        r.skinButton->setIcon(platform::swatch(platform::colorOfValue(r.skin)));
     }
 }
 

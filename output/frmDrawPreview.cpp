@@ -1,6 +1,7 @@
 #include "output/frmDrawPreview.h"
 
 #include "platform/message_box.h"
+#include "platform/spoken_caption.h"
 #include "platform/themed_icon.h"
 
 #include <QApplication>
@@ -114,10 +115,12 @@ void frmDrawPreview::buildZoomPictures() {
 
 QWidget* frmDrawPreview::buildBar() {
     m_pages = named(new QComboBox, "cboPageNo", QStringLiteral("Page number"));
+    m_pages->setToolTip(QStringLiteral("Number of the page shown"));
     m_previous = barButton("cmdPrevPage", QStringLiteral("page_prev"), QStringLiteral("Previous page"));
     m_next = barButton("cmdNextPage", QStringLiteral("page_next"), QStringLiteral("Next page"));
     m_total = named(new QLabel, "lblTotalPages", QStringLiteral("Number of pages"));
     m_scales = named(new QComboBox, "cboScale", QStringLiteral("Zoom in per cent"));
+    m_scales->setToolTip(QStringLiteral("Size of the page in per cent"));
     m_zoomIn = barButton("cmdZoomIn", QStringLiteral("zoom_in"), QStringLiteral("Zoom in"));
     m_zoomOut = barButton("cmdZoomOut", QStringLiteral("zoom_out"), QStringLiteral("Zoom out"));
     auto* percent = named(new QLabel(QStringLiteral("%")), "lblPercent", QStringLiteral("per cent"));
@@ -179,6 +182,7 @@ void frmDrawPreview::loadForm() {
     updatePageButtons();
     renderPage(1);
     m_loaded = true;
+    platform::speakCaptions(*this);
     showZoomPicture();
 }
 

@@ -1,5 +1,7 @@
 #include "platform/font_dialog_window.h"
 
+#include "platform/swatch.h"
+
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
@@ -9,6 +11,8 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 
 namespace zeltrona::platform {
@@ -37,12 +41,6 @@ constexpr Script kScripts[] = {
     {136, "Chinese, traditional"},
 };
 
-QIcon swatch(const QColor& color) {
-    QPixmap picture(16, 16);
-    picture.fill(color);
-    return QIcon(picture);
-}
-
 } // namespace
 
 FontDialogWindow::FontDialogWindow(QWidget* parent, FontEffects effects) : QFontDialog(parent) {
@@ -52,6 +50,7 @@ FontDialogWindow::FontDialogWindow(QWidget* parent, FontEffects effects) : QFont
     // A native dialog cannot carry the script list.
     setOption(QFontDialog::DontUseNativeDialog);
     hideWritingSystems();
+    nameParts();
     addScriptRow(effects);
     if (effects == FontEffects::Hidden) {
         hideEffects();
@@ -106,6 +105,19 @@ void FontDialogWindow::hideWritingSystems() {
         if (auto* list = qobject_cast<QComboBox*>(label->buddy())) {
             label->hide();
             list->hide();
+        }
+    }
+}
+
+// The toolkit names the labels over the three columns, and neither the fields nor the lists below them.
+void FontDialogWindow::nameParts() {
+    const char* const columns[] = {"Font", "Font style", "Size"};
+    const auto fields = findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto lists = findChildren<QListView*>(QString(), Qt::FindDirectChildrenOnly);
+    for (int column = 0; column < 3; ++column) {
+        if (column < fields.size() && column < lists.size()) {
+            fields[column]->setAccessibleName(QLatin1String(columns[column]));
+            lists[column]->setAccessibleName(QLatin1String(columns[column]));
         }
     }
 }

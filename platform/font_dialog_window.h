@@ -41,6 +41,7 @@ private:
     void addScriptRow(FontEffects effects);
     void hideEffects();
     void hideWritingSystems();
+    void nameParts();
     void askColor();
 
     QComboBox* m_scripts = nullptr;

@@ -20,8 +20,7 @@ struct PointerEvent {
 /// `pic`: shows the surface's image, one image pixel to one board unit, without a border, and tells pointer
 /// events. It follows the pointer without a button too. On a finer screen a unit is a block of equal pixels.
 /// Each press of the left button is followed by its release, also where a message box swallowed it: it is
-/// told when the box is gone, or when the button goes up after it. What no window of the program saw is told
-/// when the pointer comes back.
+/// told when the box is gone, or when the button goes up after that.
 class BoardView : public QWidget {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include "session/main_controls.h"
 
 #include "animation/transport_bar.h"
+#include "session/accessible_roles.h"
 #include "session/board_view.h"
 #include "session/body_panel.h"
 #include "session/control_names.h"
@@ -36,18 +37,19 @@ void setTabChain(std::initializer_list<QWidget*> chain) {
 }
 
 void orderTabs(const MainControls& controls) {
+    const ToolBox& tools = *controls.pToolbox;
     const SequencePanel& frames = *controls.Frame1;
     const animation::TransportBar& bar = *controls.pToolAnim;
-    setTabChain({frames.cmdSeqNoDown, frames.txtSeq, frames.cmdSeqNoUp, frames.seqSave, frames.seqNew,
-                 frames.seqDel, frames.seqNotes, bar.cmdAnimFirst, bar.cmdAnimPrev, bar.cmdAnimPlay,
-                 bar.cmdAnimPause, bar.cmdAnimStop, bar.cmdAnimNext, bar.cmdAnimLast, bar.cmdAnimDown,
-                 bar.txtAnimSpeed, bar.cmdAnimUp, bar.animCheckLoop, controls.pToolbox->Picture1[0]});
-    const auto& tiles = controls.pToolbox->Picture1;
-    for (std::size_t place = 1; place < tiles.size(); ++place) {
-        QWidget::setTabOrder(tiles[place - 1], tiles[place]);
+    setTabChain({controls.pic, tools.cmdToolBox1Close, tools.Picture1[0]});
+    for (std::size_t place = 1; place < tools.Picture1.size(); ++place) {
+        QWidget::setTabOrder(tools.Picture1[place - 1], tools.Picture1[place]);
     }
-    setTabChain({tiles.back(), controls.pToolbox->CheckCurve, controls.pToolbox->cmdCurveShowHide,
-                 controls.pToolbox->cmdToolBox1Close, controls.pic});
+    setTabChain({tools.Picture1.back(), tools.CheckCurve,  tools.cmdCurveShowHide, frames.cmdSeqNoDown,
+                 frames.txtSeq,         frames.cmdSeqNoUp, frames.seqSave,         frames.seqNew,
+                 frames.seqDel,         frames.seqNotes,   bar.cmdAnimFirst,       bar.cmdAnimPrev,
+                 bar.cmdAnimPlay,       bar.cmdAnimPause,  bar.cmdAnimStop,        bar.cmdAnimNext,
+                 bar.cmdAnimLast,       bar.cmdAnimDown,   bar.txtAnimSpeed,       bar.cmdAnimUp,
+                 bar.animCheckLoop});
 }
 
 /// As wide as the table's left edge leaves on both sides, or as wide as the panel needs.
@@ -58,6 +60,7 @@ int panelWidth(const CourtLayout& layout, int left, const QWidget& panel) {
 } // namespace
 
 MainControls buildMainControls(QMainWindow& window) {
+    installAccessibleRoles();
     MainControls controls;
     controls.room = new QWidget(&window);
     controls.desk = new QWidget(controls.room);

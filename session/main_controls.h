@@ -29,7 +29,7 @@ struct MainControls {
     BodyPanel* pBodyTool = nullptr;
 };
 
-/// Makes the controls and their tab order: sequence, transport, tools, board.
+/// Makes the controls and their tab order: board, tools, sequence, transport.
 MainControls buildMainControls(QMainWindow& window);
 
 /// Gives window and controls the places of a court's layout. Where the user's font needs more room than they

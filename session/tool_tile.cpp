@@ -11,13 +11,14 @@ constexpr int kFrame = 2; ///< room around the cell for hover and focus
 
 } // namespace
 
-ToolTile::ToolTile(int number, QWidget* parent) : QAbstractButton(parent), m_number(number) {
+ToolTile::ToolTile(int number, QWidget* parent) : QToolButton(parent), m_number(number) {
     setFixedSize(ToolTile::sizeHint());
     setFocusPolicy(Qt::TabFocus);
+    setCheckable(true);
 }
 
 void ToolTile::setTag(const QString& tag) {
-    m_isDown = tag == QLatin1String("1");
+    setChecked(tag == QLatin1String("1"));
     update();
 }
 
@@ -32,11 +33,11 @@ QSize ToolTile::sizeHint() const {
 
 void ToolTile::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (underMouse() && !m_isDown) {
+    if (underMouse() && !isChecked()) {
         painter.fillRect(rect(), palette().color(QPalette::Midlight));
     }
     const qreal ratio = m_strip.devicePixelRatio();
-    const QRectF cell(toolImageOffset(m_number + 1, m_isDown ? 1 : 0) * ratio, 0, kCell * ratio,
+    const QRectF cell(toolImageOffset(m_number + 1, isChecked() ? 1 : 0) * ratio, 0, kCell * ratio,
                       kCell * ratio);
     painter.drawPixmap(QRectF(kFrame, kFrame, kCell, kCell), m_strip, cell);
     if (hasFocus()) {
@@ -46,12 +47,12 @@ void ToolTile::paintEvent(QPaintEvent*) {
 }
 
 void ToolTile::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
+    QToolButton::enterEvent(event);
     update();
 }
 
 void ToolTile::leaveEvent(QEvent* event) {
-    QAbstractButton::leaveEvent(event);
+    QToolButton::leaveEvent(event);
     update();
 }
 

@@ -57,7 +57,7 @@ void TransportBridge::showLoop() {
 }
 
 void TransportBridge::showCounter(std::string_view caption) {
-    m_parts.controls.pToolAnim->animlblFrameCurr->setText(toText(caption));
+    m_parts.controls.pToolAnim->showCounter(toText(caption));
 }
 
 void TransportBridge::drawAnimationStep() {

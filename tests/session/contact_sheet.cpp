@@ -1,27 +1,18 @@
-// Grabs every window to a picture of its own, in both languages and in a light and a dark palette, so that a
-// change anywhere is seen everywhere. Takes the folder for the pictures; needs an X server for true fonts and
-// styles.
+// Grabs every window to a picture of its own, in both languages, with a light and a dark palette and with
+// large letters, so that a change anywhere is seen everywhere. Takes the folder for the pictures; needs an X
+// server for true fonts and styles.
 #include "assets/resources.h"
-#include "dialogs/frmAbout.h"
-#include "dialogs/frmConfig.h"
-#include "dialogs/frmConfig1.h"
-#include "dialogs/frmHelp.h"
-#include "dialogs/frmInputBox.h"
-#include "dialogs/frmNotes.h"
-#include "dialogs/frmTitle.h"
-#include "dialogs/frmTxtMsg.h"
-#include "platform/program_folder.h"
 #include "platform/program_fonts.h"
 #include "platform/themed_icon.h"
-#include "session/frmGameSelect.h"
 #include "session/frmSplash.h"
+#include "tests/session/every_window.h"
 #include "tests/session/open_play.h"
 #include "tests/session/window_harness.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
+#include <QMap>
 #include <QTest>
 
 #include <cstdio>
@@ -45,48 +36,6 @@ QPalette darkPalette() {
     return dark;
 }
 
-void grabSelection(int language, const QString& suffix) {
-    document::Session session;
-    session::chooseLanguage(session, language);
-    session::frmGameSelect window(session);
-    window.setAttribute(Qt::WA_DeleteOnClose, false);
-    save(window, QStringLiteral("frmGameSelect") + suffix);
-}
-
-void grabBoards(int language, const QString& suffix) {
-    for (const int court : {1, 3}) {
-        testing::OpenPlay play(testing::playOnCourt(court), language);
-        save(play.window(), QStringLiteral("frmMain_court%1").arg(court) + suffix);
-    }
-    testing::OpenPlay bodies(testing::playWithBodies(), language);
-    save(bodies.window(), QStringLiteral("frmMain_bodies") + suffix);
-}
-
-void grabDialogs(int language, const QString& suffix) {
-    QTemporaryDir plays;
-    document::Session session;
-    session::chooseLanguage(session, language);
-    document::PlayFile play(plays.filePath(QStringLiteral("play.zpf")).toStdString());
-    const auto grab = [&suffix](QWidget& form) { save(form, form.objectName() + suffix); };
-    dialogs::frmConfig teams(play, session);
-    grab(teams);
-    dialogs::frmConfig1 court(play, session);
-    grab(court);
-    dialogs::frmTitle title(play, session, nullptr);
-    grab(title);
-    dialogs::frmNotes notes(play, session, nullptr);
-    grab(notes);
-    dialogs::frmTxtMsg notice(session, nullptr);
-    grab(notice);
-    dialogs::frmInputBox prompt(QStringLiteral("Arial"), 238, nullptr);
-    grab(prompt);
-    dialogs::frmAbout about(nullptr);
-    grab(about);
-    dialogs::frmHelp help(QStringLiteral(ZELTRONA_BINARY_DIR "/bin/ZP.hlp"), nullptr);
-    help.setAttribute(Qt::WA_DeleteOnClose, false);
-    grab(help);
-}
-
 /// A sample play on its third frame, as the README shows it.
 void grabSample(const QString& name) {
     QFile file(QStringLiteral(ZELTRONA_SOURCE_DIR "/assets/Files/%1.zpf").arg(name));
@@ -98,12 +47,16 @@ void grabSample(const QString& name) {
     save(play.window(), QStringLiteral("board_") + name);
 }
 
+/// Every window in both languages; a form that comes again gets a number behind its name.
 void grabAll(const QString& theme) {
     for (const int language : {0, 1}) {
         const QString suffix = theme + (language == 0 ? QStringLiteral("_en") : QStringLiteral("_sr"));
-        grabSelection(language, suffix);
-        grabBoards(language, suffix);
-        grabDialogs(language, suffix);
+        QMap<QString, int> times;
+        testing::forEveryWindow(language, [&](QWidget& window) {
+            const int time = ++times[window.objectName()];
+            const QString number = time == 1 ? QString() : QString::number(time);
+            save(window, window.objectName() + number + suffix);
+        });
     }
 }
 
@@ -129,6 +82,12 @@ int main(int argc, char** argv) {
         grabSample(QLatin1String(name));
     }
     grabAll(QString());
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(16);
+    QApplication::setFont(large);
+    grabAll(QStringLiteral("_large"));
+    QApplication::setFont(usual);
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(darkPalette());
     grabAll(QStringLiteral("_dark"));
