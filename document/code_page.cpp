@@ -100,6 +100,55 @@ std::size_t firstCharacterLength(std::string_view utf8) {
     return length;
 }
 
+std::string converted(std::string_view bytes, const std::string& encoding) {
+    std::string text;
+    Converter converter("UTF-8", encoding);
+    while (!bytes.empty()) {
+        converter.convert(bytes, text);
+        if (!bytes.empty()) {
+            converter.finish(text);
+            text.append("\xEF\xBF\xBD");
+            bytes.remove_prefix(1);
+        }
+    }
+    converter.finish(text);
+    return text;
+}
+
+// What each byte means, for the pages whose bytes stand alone: a board converts its labels at every redraw,
+// and to set a conversion up costs more than to paint a label.
+using ByteMeanings = std::array<std::string, 256>;
+
+template<int Page> const ByteMeanings& meaningsOf() {
+    static const ByteMeanings meanings = [] {
+        ByteMeanings made;
+        for (std::size_t byte = 0; byte < made.size(); ++byte) {
+            made[byte] = converted(std::string(1, static_cast<char>(byte)), "CP" + std::to_string(Page));
+        }
+        return made;
+    }();
+    return meanings;
+}
+
+const ByteMeanings* meaningsOf(int page) {
+    switch (page) {
+    case 1250:
+        return &meaningsOf<1250>();
+    case 1251:
+        return &meaningsOf<1251>();
+    case 1252:
+        return &meaningsOf<1252>();
+    case 1253:
+        return &meaningsOf<1253>();
+    case 1254:
+        return &meaningsOf<1254>();
+    case 1257:
+        return &meaningsOf<1257>();
+    default:
+        return nullptr;
+    }
+}
+
 } // namespace
 
 int codePageOf(std::int16_t charset) {
@@ -113,17 +162,14 @@ std::string toUtf8(std::string_view bytes, std::int16_t charset) {
     if (isAscii(bytes)) {
         return std::string(bytes);
     }
-    std::string text;
-    Converter converter("UTF-8", encodingOf(charset));
-    while (!bytes.empty()) {
-        converter.convert(bytes, text);
-        if (!bytes.empty()) {
-            converter.finish(text);
-            text.append("\xEF\xBF\xBD");
-            bytes.remove_prefix(1);
-        }
+    const ByteMeanings* meanings = meaningsOf(codePageOf(charset));
+    if (meanings == nullptr) {
+        return converted(bytes, encodingOf(charset));
     }
-    converter.finish(text);
+    std::string text;
+    for (const char byte : bytes) {
+        text += (*meanings)[static_cast<unsigned char>(byte)];
+    }
     return text;
 }
 
