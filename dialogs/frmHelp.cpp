@@ -40,7 +40,9 @@ frmHelp::frmHelp(const QString& fileName, QWidget* parent) : QDialog(parent), m_
     } else {
         m_topic->setPlainText(QStringLiteral("The help file %1 cannot be read.").arg(m_fileName));
     }
-    resize(820, 560);
+    // A page of 76 letters a line beside the contents, also in large letters.
+    const int page = fontMetrics().averageCharWidth() * 76;
+    resize(std::max(820, m_contents->width() + page), std::max(560, fontMetrics().height() * 30));
 }
 
 frmHelp::~frmHelp() {
@@ -92,7 +94,7 @@ bool frmHelp::fillContents() {
         item->setData(kPageRole, line.section(u'\t', 0, 0));
     }
     // The longest topic stands whole, with a fifth of room to spare, in the user's own letters.
-    const int width = m_contents->sizeHintForColumn(0) * 6 / 5;
+    const int width = std::max(200, m_contents->sizeHintForColumn(0) * 6 / 5);
     m_contents->setFixedWidth(width);
     m_search->setFixedWidth(width);
     return !lines.isEmpty();

@@ -76,6 +76,8 @@ void FontDialogWindow::addScriptRow(FontEffects effects) {
     connect(m_colorButton, &QPushButton::clicked, this, &FontDialogWindow::askColor);
 
     auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->setContentsMargins(0, 8, 0, 8);
     row->addWidget(label);
     row->addWidget(m_scripts);
     row->addStretch();
