@@ -199,6 +199,11 @@ void frmDrawPreview::renderPage(std::int16_t page) {
     }
 }
 
+QLabel* frmDrawPreview::picture(int zoomIndex) const {
+    const auto index = static_cast<std::size_t>(zoomIndex - 1);
+    return m_pictures[index];
+}
+
 bool frmDrawPreview::stretchPage(int zoomIndex) {
     QLabel* sheet = picture(zoomIndex);
     const qreal ratio = devicePixelRatioF();

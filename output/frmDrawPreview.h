@@ -61,7 +61,7 @@ private:
     void updateScrollBars(const QLabel& picture);
     bool stretchPage(int zoomIndex);
     void renderPage(std::int16_t page);
-    QLabel* picture(int zoomIndex) const { return m_pictures[static_cast<std::size_t>(zoomIndex - 1)]; }
+    QLabel* picture(int zoomIndex) const;
 
     PreviewSource m_source;
     std::int16_t m_previewZoomIndex = 4;

@@ -12,7 +12,7 @@ namespace zeltrona::session {
 /// Answers what editing asks for: with the window's controls, the platform's dialogs and the play.
 class EditorBridge : public editor::EditorHost {
 public:
-    EditorBridge(MainWindowParts parts, QMenu& mnuPopUp) : m_parts(parts), m_popUp(mnuPopUp) {}
+    EditorBridge(const MainWindowParts& parts, QMenu& mnuPopUp) : m_parts(parts), m_popUp(mnuPopUp) {}
 
     /// Where the pop-up menu opens next, on the screen.
     void setPointer(QPoint onScreen) { m_pointer = onScreen; }

@@ -13,7 +13,7 @@ namespace zeltrona::session {
 /// that is open, and presses the window's own buttons for it.
 class TransportBridge : public animation::TransportHost, public animation::FullScreenOwner {
 public:
-    explicit TransportBridge(MainWindowParts parts) : m_parts(parts) {}
+    explicit TransportBridge(const MainWindowParts& parts) : m_parts(parts) {}
     /// Takes the full screen with it.
     ~TransportBridge() override;
 
