@@ -6,7 +6,6 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QMouseEvent>
-#include <QTimer>
 
 namespace zeltrona::animation {
 
@@ -122,7 +121,7 @@ bool TransportBar::eventFilter(QObject* watched, QEvent* event) {
     // The box holds one digit, and a second one beside it counts as a mistake: what is typed has to replace
     // it.
     if (event->type() == QEvent::FocusIn && watched == txtAnimSpeed) {
-        QTimer::singleShot(0, txtAnimSpeed, &QLineEdit::selectAll);
+        QMetaObject::invokeMethod(txtAnimSpeed, &QLineEdit::selectAll, Qt::QueuedConnection);
     }
     return QFrame::eventFilter(watched, event);
 }

@@ -39,8 +39,10 @@ QImage circlePreview(const QString& label, Color suit, Color font, Color backgro
     surface.circle(kCentre, kCentre, kRadius, 0, true);
     surface.state.font = {QStringLiteral("Arial"), 10, true, false, false, false, 0};
     surface.state.foreColor = font;
-    surface.state.currentX = static_cast<float>(kCentre - surface.textWidth(label) / 2);
-    surface.state.currentY = static_cast<float>(kCentre - surface.textHeight(label) / 2);
+    const int left = kCentre - surface.textWidth(label) / 2;
+    const int top = kCentre - surface.textHeight(label) / 2;
+    surface.state.currentX = static_cast<float>(left);
+    surface.state.currentY = static_cast<float>(top);
     surface.print(label);
     return surface.image();
 }

@@ -25,7 +25,7 @@ QFont pageFont(const PageFont& font, double pixelsPerPoint) {
     return result;
 }
 
-FontMeasure::FontMeasure(QFont windowFont) : m_windowFont(std::move(windowFont)) {
+FontMeasure::FontMeasure(const QFont& windowFont) : m_windowFont(windowFont) {
     if (m_windowFont.pixelSize() <= 0) {
         m_windowFont.setPixelSize(static_cast<int>(std::lround(m_windowFont.pointSizeF() * 96 / 72)));
     }
