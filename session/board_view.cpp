@@ -75,37 +75,40 @@ void BoardView::paintEvent(QPaintEvent* event) {
 }
 
 void BoardView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) {
-        m_holdsLeft = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
-        watchWindow();
-    }
+    tellReleases(m_held & (lostButtons() | event->button()));
+    m_held |= QGuiApplication::mouseButtons() & event->button();
+    watchWindow();
     emit pressed(pointerEvent(*event, event->button()));
-    tellLostRelease();
+    tellReleases(lostButtons());
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
+    tellReleases(lostButtons());
     emit moved(pointerEvent(*event, event->buttons()));
-    tellLostRelease();
+    tellReleases(lostButtons());
 }
 
 void BoardView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) {
-        m_holdsLeft = false;
-    }
+    m_held.setFlag(event->button(), false);
     emit released(pointerEvent(*event, event->button()));
 }
 
-// A message box that opens during a drag ends the board's hold on the pointer. While it is open the toolkit
-// drops a release, and afterwards it hands one to no control: the window system's own state of the button is
-// all that is left of it.
-void BoardView::tellLostRelease() {
-    if (!m_holdsLeft || QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
-        return;
+// A message box or a menu that a press or a drag opens ends the board's hold on the pointer. While it is open
+// it swallows a release, and afterwards the toolkit hands one to no control: the window system's own state of
+// the buttons is all that is left of it.
+Qt::MouseButtons BoardView::lostButtons() const {
+    return m_held & ~QGuiApplication::mouseButtons();
+}
+
+void BoardView::tellReleases(Qt::MouseButtons buttons) {
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        if (buttons.testFlag(button)) {
+            m_held.setFlag(button, false);
+            const QPointF place = mapFromGlobal(QPointF(QCursor::pos()));
+            emit released({buttonCode(button), shiftCode(QGuiApplication::keyboardModifiers()),
+                           static_cast<float>(place.x()), static_cast<float>(place.y())});
+        }
     }
-    m_holdsLeft = false;
-    const QPointF place = mapFromGlobal(QPointF(QCursor::pos()));
-    emit released({buttonCode(Qt::LeftButton), shiftCode(QGuiApplication::keyboardModifiers()),
-                   static_cast<float>(place.x()), static_cast<float>(place.y())});
 }
 
 void BoardView::watchWindow() {
@@ -116,8 +119,9 @@ void BoardView::watchWindow() {
 
 // Told later, when the board had its chance to get the release in the ordinary way.
 bool BoardView::eventFilter(QObject* watched, QEvent* event) {
-    if (m_holdsLeft && event->type() == QEvent::MouseButtonRelease) {
-        QMetaObject::invokeMethod(this, &BoardView::tellLostRelease, Qt::QueuedConnection);
+    if (m_held != Qt::NoButton && event->type() == QEvent::MouseButtonRelease) {
+        QMetaObject::invokeMethod(
+            this, [this] { tellReleases(lostButtons()); }, Qt::QueuedConnection);
     }
     return QWidget::eventFilter(watched, event);
 }

@@ -19,8 +19,9 @@ struct PointerEvent {
 
 /// `pic`: shows the surface's image, one image pixel to one board unit, without a border, and tells pointer
 /// events. It follows the pointer without a button too. On a finer screen a unit is a block of equal pixels.
-/// Each press of the left button is followed by its release, also where a message box swallowed it: it is
-/// told when the box is gone, or when the button goes up after that.
+/// Each press of a button is followed by its release, also where a message box or a menu swallowed it: it is
+/// told when the pointer is back, at the latest ahead of the next press, or when the button goes up after
+/// that.
 class BoardView : public QWidget {
     Q_OBJECT
 
@@ -44,12 +45,13 @@ protected:
 
 private:
     void showRefreshed();
-    void tellLostRelease();
+    Qt::MouseButtons lostButtons() const;
+    void tellReleases(Qt::MouseButtons buttons);
     void watchWindow();
 
     render::BoardSurface* m_surface = nullptr;
-    bool m_holdsLeft =
-        false; ///< pressed here and not yet told as released; events of a test's own never set it
+    /// Pressed here and not yet told as released; events of a test's own never set it.
+    Qt::MouseButtons m_held;
 };
 
 } // namespace zeltrona::session

@@ -4,11 +4,13 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QMenu>
 #include <QMessageBox>
 #include <QTest>
 #include <QWindow>
 
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace zeltrona::session {
 namespace {
@@ -83,6 +85,61 @@ TEST_F(LostRelease, ButtonStillDownGoesOnWithTheDrag) {
     QTest::mouseRelease(window(), Qt::LeftButton, {}, play.window().rect().bottomRight());
     testing::settle();
     EXPECT_EQ(storedPlace(), "40,200");
+}
+
+/// A right press on the board that opens the pop-up menu, which keeps the release for itself and is left by
+/// Esc. As the pointer comes back, nothing is held any more.
+void leaveMenuOpenedAt(OpenPlay& play, QPoint place) {
+    QWindow* const window = play.window().windowHandle();
+    const auto at = [&play](QPoint onBoard) { return play.pic().mapTo(&play.window(), onBoard); };
+    QTest::mousePress(window, Qt::RightButton, {}, at(place));
+    auto& menu = testing::control<QMenu>(play.window(), QStringLiteral("mnuPopUp"));
+    ASSERT_TRUE(menu.isVisible());
+    QTest::mouseRelease(menu.windowHandle(), Qt::RightButton);
+    QTest::keyClick(&menu, Qt::Key_Escape);
+    ASSERT_FALSE(menu.isVisible());
+    QTest::mouseMove(window, at({200, 280}));
+    EXPECT_EQ(play.status(), " (200,280) -Ready.");
+}
+
+TEST(LostMenuRelease, BallUnderTheMenuStaysBehindAtTheNextDrag) {
+    OpenPlay play;
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&play.window()));
+    leaveMenuOpenedAt(play, {135, 95});
+    testing::drag(play.pic(), {{200, 280}, {230, 290}});
+    testing::click(play.window(), "seqSave");
+    EXPECT_EQ(play.key("Frame1", "Ball0"), "128,92.5,");
+}
+
+TEST(LostMenuRelease, HandUnderTheMenuDoesNotFollowThePointer) {
+    OpenPlay play(testing::playWithBodies());
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&play.window()));
+    testing::click(play.window(), "seqSave");
+    const std::string before = play.key("Frame1", "angleoff0");
+    leaveMenuOpenedAt(play, {148, 125});
+    testing::moveTo(play.pic(), {100, 60});
+    testing::click(play.window(), "seqSave");
+    EXPECT_EQ(play.key("Frame1", "angleoff0"), before);
+}
+
+TEST(LostMenuRelease, IsToldAheadOfAPressThatComesFirst) {
+    OpenPlay play;
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&play.window()));
+    std::vector<int> told;
+    const auto& pic = dynamic_cast<BoardView&>(play.pic());
+    QObject::connect(&pic, &BoardView::released, &pic,
+                     [&](const PointerEvent& e) { told.push_back(e.button); });
+    QObject::connect(&pic, &BoardView::pressed, &pic,
+                     [&](const PointerEvent& e) { told.push_back(-e.button); });
+    QWindow* const window = play.window().windowHandle();
+    const QPoint place = play.pic().mapTo(&play.window(), QPoint(200, 280));
+    QTest::mousePress(window, Qt::RightButton, {}, place);
+    auto& menu = testing::control<QMenu>(play.window(), QStringLiteral("mnuPopUp"));
+    QTest::mouseRelease(menu.windowHandle(), Qt::RightButton);
+    menu.close();
+    QTest::mousePress(window, Qt::LeftButton, {}, place);
+    QTest::mouseRelease(window, Qt::LeftButton, {}, place);
+    EXPECT_EQ(told, (std::vector<int>{-2, 2, -1, 1}));
 }
 
 TEST_F(LostRelease, DragWithoutAMessageIsReleasedOnce) {
