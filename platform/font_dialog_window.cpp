@@ -96,8 +96,24 @@ void FontDialogWindow::hideEffects() {
     for (QGroupBox* group : groups) {
         if (group->findChild<QCheckBox*>() != nullptr) {
             group->hide();
+        } else if (group->findChild<QLineEdit*>() != nullptr) {
+            giveRoom(*group);
         }
     }
+}
+
+// The sample asks for no height of its own and lives on that of the effects beside it.
+void FontDialogWindow::giveRoom(QGroupBox& sample) {
+    auto* grid = qobject_cast<QGridLayout*>(layout());
+    Q_ASSERT(grid != nullptr);
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid->getItemPosition(grid->indexOf(&sample), &row, &column, &rows, &columns);
+    grid->removeWidget(&sample);
+    grid->addWidget(&sample, row, 0, rows, grid->columnCount());
+    sample.findChild<QLineEdit*>()->setMinimumHeight(3 * fontMetrics().lineSpacing());
 }
 
 // The toolkit's own list only filters the faces; beside a list of scripts it would mislead.

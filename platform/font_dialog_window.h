@@ -4,6 +4,7 @@
 #include <QFontDialog>
 
 class QComboBox;
+class QGroupBox;
 class QPushButton;
 
 namespace zeltrona::platform {
@@ -40,6 +41,7 @@ signals:
 private:
     void addScriptRow(FontEffects effects);
     void hideEffects();
+    void giveRoom(QGroupBox& sample);
     void hideWritingSystems();
     void nameParts();
     void askColor();

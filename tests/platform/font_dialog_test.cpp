@@ -5,7 +5,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFontInfo>
+#include <QGroupBox>
+#include <QLineEdit>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace zeltrona::platform {
@@ -37,6 +40,24 @@ TEST(FontDialog, OpensOnTheFaceSetAndSizeInBlack) {
     EXPECT_EQ(choice.size, 12);
     EXPECT_EQ(choice.charset, 204);
     EXPECT_EQ(choice.color, 0);
+}
+
+TEST(FontDialog, ShowsItsSampleWithAndWithoutEffects) {
+    for (const bool effects : {true, false}) {
+        DialogAnswerer answers;
+        answers.expect([effects](QWidget& window) {
+            const auto groups = window.findChildren<QGroupBox*>();
+            const auto sample = std::find_if(groups.begin(), groups.end(), [](const QGroupBox* group) {
+                return group->findChild<QLineEdit*>() != nullptr;
+            });
+            ASSERT_NE(sample, groups.end());
+            const auto* text = (*sample)->findChild<QLineEdit*>();
+            EXPECT_GE(text->height(), text->fontMetrics().height()) << "effects " << effects;
+            EXPECT_FALSE(text->text().isEmpty());
+            accept(window);
+        });
+        chooseFontDialog(nullptr, kArial, 238, effects, 120);
+    }
 }
 
 TEST(FontDialog, FaceThatStandsForASubstituteKeepsItsName) {
