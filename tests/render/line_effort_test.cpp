@@ -46,15 +46,15 @@ Painting maze(int style, Shape shape, int lines, std::int16_t width) {
 
 TEST(LineEffort, GivesWhatIsLeftAndNoMore) {
     LineEffort effort = LineEffort::forPoints(0);
-    EXPECT_TRUE(effort.take(6'000'000));
-    EXPECT_FALSE(effort.take(6'000'000));
-    EXPECT_TRUE(effort.take(4'000'000)) << "what was refused was not taken";
+    EXPECT_TRUE(effort.take(30'000'000));
+    EXPECT_FALSE(effort.take(11'000'000));
+    EXPECT_TRUE(effort.take(10'000'000)) << "what was refused was not taken";
     EXPECT_FALSE(effort.take(1));
 }
 
 TEST(LineEffort, GrowsByThePoint) {
     LineEffort effort = LineEffort::forPoints(1000);
-    EXPECT_TRUE(effort.take(12'000'000));
+    EXPECT_TRUE(effort.take(42'000'000));
     EXPECT_FALSE(effort.take(1));
 }
 
@@ -82,11 +82,39 @@ TEST(LineShare, LeavesACrowdedBoardAsItIs) {
     }
 }
 
+/// Curves that swing across the board again and again, of eleven points each.
+Painting longCurves(int style, Shape shape, int lines) {
+    Painting painting;
+    for (int i = 0; i < lines; ++i) {
+        std::vector<PointF> pts;
+        for (int j = 0; j < 11; ++j) {
+            pts.push_back({j % 2 == 0 ? 5.0F : 525.0F, static_cast<float>((i * 31 + j * 29) % 290)});
+        }
+        painting.lines.push_back(lineOf(style, shape, std::move(pts)));
+    }
+    painting.box = {0, 0, 532, 295};
+    return painting;
+}
+
+TEST(LineShare, LeavesFortyLongLinesUnderAnyPenAsTheyAre) {
+    for (const Shape shape : {Shape::Straight, Shape::Curved}) {
+        for (int style = 0; style <= 4; ++style) {
+            Painting painting = longCurves(style, shape, 40);
+            for (std::int16_t width = 1; width <= 20; ++width) {
+                painting.lineWidth = width;
+                EXPECT_EQ(paintedWithinItsShare(painting).primitives, painted(painting).primitives)
+                    << (shape == Shape::Curved ? "curved" : "straight") << " style " << style << " width "
+                    << width;
+            }
+        }
+    }
+}
+
 TEST(LineShare, BoundsTheHalfWavesOfAMaze) {
     for (const std::int16_t width : std::array<std::int16_t, 3>{1, 20, 300}) {
         const Painting painting = maze(2, Shape::Straight, 4, width);
         const LineDrawing drawing = paintedWithinItsShare(painting);
-        const auto most = static_cast<std::size_t>((10'000'000 + 2'000 * 6'000) / costOfHalfWave(width));
+        const auto most = static_cast<std::size_t>((40'000'000 + 2'000 * 6'000) / costOfHalfWave(width));
         EXPECT_LE(allOf<ArcPrimitive>(drawing).size(), most) << width;
         EXPECT_GT(allOf<ArcPrimitive>(drawing).size(), most / 2) << width;
     }
@@ -117,7 +145,7 @@ TEST(LineShare, EndsTheWalkOutsideTheBoardOnceItIsUsedUp) {
     flattenBezierPath(far, whole, kBoard);
     ASSERT_GT(whole.size(), 30'000U);
     LineEffort effort = LineEffort::forPoints(0);
-    ASSERT_TRUE(effort.take(10'000'000 - 1000 * kCostOfUnseenSample));
+    ASSERT_TRUE(effort.take(40'000'000 - 1000 * kCostOfUnseenSample));
     std::vector<PointF> cut;
     flattenBezierPath(far, cut, kBoard, &effort);
     EXPECT_LT(cut.size(), 1200U);
