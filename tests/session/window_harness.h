@@ -57,6 +57,9 @@ public:
     /// The next modal window is handed to `answer`, which has to end it (or lead to another one).
     void expect(Answer answer);
 
+    /// From now on every modal window that nothing else expects.
+    void expectAnything(Answer answer) { m_anything = std::move(answer); }
+
     /// A message box with exactly this text; presses "Ok", "Yes" or "No".
     void expectMessage(const QString& text, const QString& button = QStringLiteral("Ok"),
                        const QString& title = QStringLiteral("Zeltrona"));
@@ -79,6 +82,7 @@ private:
     void pollLater();
 
     std::deque<Answer> m_answers;
+    Answer m_anything;
     QPointer<QWidget> m_seen; // at the poll before
     QPointer<QWidget> m_last; // answered
     int m_answered = 0;
