@@ -37,14 +37,13 @@ QString playsFolderOf(const QString& program, const QString& documents) {
     if (takesFiles(program)) {
         return samplesOf(program);
     }
-    const QString own = documents + QStringLiteral("/Zeltrona");
-    if (QFileInfo(own).isDir()) {
-        return own;
+    QString own = documents + QStringLiteral("/Zeltrona");
+    if (!QFileInfo(own).isDir()) {
+        if (!QDir().mkpath(own)) {
+            return QDir::homePath();
+        }
+        linkToSamples(program, own);
     }
-    if (!QDir().mkpath(own)) {
-        return QDir::homePath();
-    }
-    linkToSamples(program, own);
     return own;
 }
 

@@ -10,6 +10,16 @@ namespace zeltrona::render {
 
 namespace {
 
+/// Calls for every whole number from `first` to `last`; for none when one of them is no number.
+template<class Visit> void visitWholes(double first, double last, Visit visit) {
+    if (!(first <= last)) {
+        return;
+    }
+    for (int at = static_cast<int>(first); at <= last; ++at) {
+        visit(at);
+    }
+}
+
 double cross(PointD a, PointD b) {
     return a.x * b.y - a.y * b.x;
 }
@@ -85,9 +95,7 @@ private:
     template<class Visit> void eachIn(double middle, int size, Visit visit) const {
         const double first = std::max(std::ceil(middle - m_flat), 0.0);
         const double last = std::min(std::floor(middle + m_flat), size - 1.0);
-        for (double at = first; at <= last; at += 1.0) {
-            visit(at);
-        }
+        visitWholes(first, last, visit);
     }
     double bow(double offset) const {
         return std::sqrt(std::max(m_arc.radius * m_arc.radius - offset * offset, 0.0));
@@ -149,9 +157,7 @@ public:
     void draw() const {
         const double top = std::max(std::ceil(m_arc.middle.y - m_outer), 0.0);
         const double bottom = std::min(std::floor(m_arc.middle.y + m_outer), m_view.height - 1.0);
-        for (double y = top; y <= bottom; y += 1.0) {
-            drawRow(y);
-        }
+        visitWholes(top, bottom, [this](double y) { drawRow(y); });
         for (const PointD end : {m_sweep.start, m_sweep.end}) {
             const PointD at = placeOf(m_arc, end);
             const double back = m_pen.width % 2 == 0 ? 0.5 : 0.0;
