@@ -1,5 +1,7 @@
 #include "render/arc.h"
 
+#include "render/whole_rows.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -9,16 +11,6 @@
 namespace zeltrona::render {
 
 namespace {
-
-/// Calls for every whole number from `first` to `last`; for none when one of them is no number.
-template<class Visit> void visitWholes(double first, double last, Visit visit) {
-    if (!(first <= last)) {
-        return;
-    }
-    for (int at = static_cast<int>(first); at <= last; ++at) {
-        visit(at);
-    }
-}
 
 double cross(PointD a, PointD b) {
     return a.x * b.y - a.y * b.x;

@@ -1,5 +1,7 @@
 #include "render/pen.h"
 
+#include "render/whole_rows.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -192,13 +194,13 @@ Stroke strokeWide(const PixelView& view, PointD from, PointD to, Pen pen) {
     const double top = std::max(std::ceil(std::min(from.y, to.y) - radius), 0.0);
     const double bottom = std::min(std::floor(std::max(from.y, to.y) + radius), view.height - 1.0);
     const Bar bar(from, to, radius);
-    for (double y = top; y <= bottom; y += 1.0) {
+    visitWholes(top, bottom, [&](int y) {
         Reach reach;
         addDisc(reach, from, radius, y);
         addDisc(reach, to, radius, y);
         bar.addTo(reach, y);
-        fillReach(view, static_cast<int>(y), reach, pen.pixel);
-    }
+        fillReach(view, y, reach, pen.pixel);
+    });
     return Stroke::Part;
 }
 
@@ -208,11 +210,11 @@ void strokeDisc(const PixelView& view, PointD at, Pen pen) {
     at = {at.x + lean, at.y + lean};
     const double top = std::max(std::ceil(at.y - radius), 0.0);
     const double bottom = std::min(std::floor(at.y + radius), view.height - 1.0);
-    for (double y = top; y <= bottom; y += 1.0) {
+    visitWholes(top, bottom, [&](int y) {
         Reach reach;
         addDisc(reach, at, radius, y);
-        fillReach(view, static_cast<int>(y), reach, pen.pixel);
-    }
+        fillReach(view, y, reach, pen.pixel);
+    });
 }
 
 void strokeSegment(const PixelView& view, PointI from, PointI to, Pen pen) {

@@ -20,7 +20,7 @@ constexpr std::size_t kMostKept = 1024UL * 1024;
 /// names more fonts than this gets only those that are there, and Arial for the others.
 constexpr int kMostNames = 32;
 /// A text larger than this is drawn afresh each time, and only where it shows.
-constexpr std::int64_t kMostInk = 64 * 1024;
+constexpr std::int64_t kMostInk = 64L * 1024;
 
 QStringList linesOf(QString text) {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -120,8 +120,8 @@ const TextRaster::Shape& TextRaster::remembered(const Key& key) {
     if (const auto found = m_shapes.constFind(key); found != m_shapes.constEnd()) {
         return *found;
     }
-    Shape shape = key.area.isEmpty() ? shapeOf(key.font, key.text)
-                                     : Shape{{}, true, inkOf(key.font, key.text, key.area)};
+    const Shape shape = key.area.isEmpty() ? shapeOf(key.font, key.text)
+                                           : Shape{{}, true, inkOf(key.font, key.text, key.area)};
     constexpr std::size_t kForKey = 32;
     const std::size_t room = shape.ink.size() + static_cast<std::size_t>(key.text.size()) + kForKey;
     if (m_kept + room > kMostKept) {
@@ -129,7 +129,7 @@ const TextRaster::Shape& TextRaster::remembered(const Key& key) {
         m_kept = 0;
     }
     m_kept += room;
-    return *m_shapes.insert(key, std::move(shape));
+    return *m_shapes.insert(key, shape);
 }
 
 SurfaceFont TextRaster::asked(const SurfaceFont& font) {
