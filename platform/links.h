@@ -16,4 +16,10 @@ QString mailAddress(const QString& address);
 void openWebPage(QWidget* parent, const QString& url);
 void openMail(QWidget* parent, const QString& address);
 
+/// Hands the address to the desktop's own opener, a program, without waiting for it. When it answers within
+/// ten seconds that it can't (or can't be started), `advice` and the address are shown; later on it is the
+/// browser that answers, and nothing is shown.
+/// Reason: the toolkit starts that program as well but never asks how it went.
+void openThrough(const QString& opener, QWidget* parent, const QString& address, const QString& advice);
+
 } // namespace zeltrona::platform
