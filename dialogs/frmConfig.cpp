@@ -56,6 +56,7 @@ frmConfig::frmConfig(document::PlayFile& play, const document::Session& session,
     column->addLayout(cards);
     column->addWidget(buildLines());
     column->addWidget(buildFoot());
+    m_next->setFocus(); // the first control would take Return, and shows no focus until a key moves it
 
     checkArialFont();
     drawLinePreview();

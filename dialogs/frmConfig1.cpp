@@ -68,6 +68,7 @@ frmConfig1::frmConfig1(document::PlayFile& play, document::Session& session, QWi
     grid->addWidget(m_next, 3, 1, Qt::AlignRight);
     grid->setRowStretch(2, 1);
     grid->setColumnStretch(1, 1);
+    m_next->setFocus(); // the first control would take Return, and shows no focus until a key moves it
     showCourtPreview();
     m_missingCaption = setCourtCaptions();
     platform::speakCaptions(*this);

@@ -56,6 +56,15 @@ TEST_F(CourtWindow, ReturnMeansNextAndPressesAFocusedButton) {
     EXPECT_EQ(play.file.readWhole("Config", "court"), "2");
 }
 
+TEST_F(CourtWindow, ReturnMeansNextAsTheWindowOpens) {
+    open();
+    QSignalSpy spy(form.get(), &frmConfig1::nextStep);
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    QTest::keyClick(form->windowHandle(), Qt::Key_Return);
+    EXPECT_EQ(spy.count(), 1);
+}
+
 TEST_F(CourtWindow, ShowsCaptionsOfBothLanguages) {
     const struct {
         const char* name;

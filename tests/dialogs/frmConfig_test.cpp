@@ -62,6 +62,15 @@ TEST_F(TeamWindow, ReturnInALabelMeansNext) {
     EXPECT_EQ(spy.count(), 1);
 }
 
+TEST_F(TeamWindow, ReturnMeansNextAsTheWindowOpens) {
+    open();
+    QSignalSpy spy(form.get(), &frmConfig::nextStep);
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    QTest::keyClick(form->windowHandle(), Qt::Key_Return);
+    EXPECT_EQ(spy.count(), 1);
+}
+
 TEST_F(TeamWindow, BeginsWithThreeAgainstTwo) {
     open();
     for (int i = 0; i < 12; ++i) {
