@@ -85,23 +85,22 @@ void addEntry(QMenu& menu, const MenuRow& row, const MenuHandlers& handlers) {
 void buildMainMenu(QMainWindow& window, const MenuHandlers& handlers) {
     std::map<std::string_view, QMenu*> menus;
     for (const MenuRow& row : kRows) {
-        QMenu* parent = row.parent[0] == '\0' ? nullptr : menus.at(row.parent);
         switch (row.kind) {
         case Row::Menu: {
             QMenu* menu = newMenu(row, &window);
-            if (parent == nullptr) {
+            if (row.parent[0] == '\0') {
                 window.menuBar()->addMenu(menu);
             } else {
-                parent->addMenu(menu);
+                menus.at(row.parent)->addMenu(menu);
             }
             menus.emplace(row.name, menu);
             break;
         }
         case Row::Separator:
-            parent->addSeparator();
+            menus.at(row.parent)->addSeparator();
             break;
         case Row::Entry:
-            addEntry(*parent, row, handlers);
+            addEntry(*menus.at(row.parent), row, handlers);
             break;
         }
     }

@@ -9,7 +9,7 @@ namespace zeltrona::art {
 
 QImage drawHalfCourt(const CourtPlan& plan, QSize size, BasketSide side) {
     const double top = endLineOfHalf(plan, size.height());
-    const double middle = size.width() / 2;
+    const int middle = size.width() / 2;
     return drawMask(size, [&](Spot at) {
         const double y = side == BasketSide::Top ? at.y : size.height() - at.y;
         return isCourtLine(plan, at.x - middle, y - top);
@@ -18,7 +18,7 @@ QImage drawHalfCourt(const CourtPlan& plan, QSize size, BasketSide side) {
 
 QImage drawWholeCourt(const CourtPlan& plan, QSize size) {
     const double left = endLineOfWhole(plan, size.width());
-    const double middle = size.height() / 2;
+    const int middle = size.height() / 2;
     return drawMask(size, [&](Spot at) {
         const double along = std::min(at.x - left, left + plan.length - at.x);
         return isCourtLine(plan, at.y - middle, along);

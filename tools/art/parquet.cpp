@@ -1,6 +1,7 @@
 #include "tools/art/parquet.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 
 namespace zeltrona::art {
@@ -32,7 +33,9 @@ constexpr double kSeam = 0.915;
 constexpr double kButt = 0.93;
 
 QRgb shade(double light, double warmth) {
-    const auto channel = [](double value) { return std::clamp(static_cast<int>(value + 0.5), 0, 255); };
+    const auto channel = [](double value) {
+        return std::clamp(static_cast<int>(std::lround(value)), 0, 255);
+    };
     return qRgb(channel(kRed * light), channel(kGreen * light), channel(kBlue * (light - warmth)));
 }
 

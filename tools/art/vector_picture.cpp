@@ -123,6 +123,7 @@ QImage drawPixels(const VectorPicture& picture, QSize pixels) {
 std::vector<Shape> placed(const std::vector<Shape>& shapes, double factor, double dx, double dy) {
     const QTransform transform = QTransform::fromTranslate(dx, dy).scale(factor, factor);
     std::vector<Shape> moved;
+    moved.reserve(shapes.size());
     for (const Shape& shape : shapes) {
         moved.push_back({transform.map(shape.path), shape.colour, shape.width * factor});
     }

@@ -17,6 +17,7 @@ PointF wholeMiddle(PointF middle, const Look& look) {
 
 std::vector<PointF> placed(const std::vector<Place>& places, const Look& look, const CourtMap& map) {
     std::vector<PointF> middles;
+    middles.reserve(places.size());
     for (const Place place : places) {
         middles.push_back(wholeMiddle(map.at(place), look));
     }

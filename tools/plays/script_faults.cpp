@@ -79,7 +79,7 @@ std::string faultOf(const PlayScript& play) {
         }
     }
     for (std::size_t i = 0; i < play.frames.size(); ++i) {
-        const std::string fault = frameFault(play.frames[i], moments[i]);
+        std::string fault = frameFault(play.frames[i], moments[i]);
         if (!fault.empty()) {
             return fault;
         }

@@ -63,6 +63,7 @@ void addBalls(FrameRecords& records, const Stage& stage) {
 
 std::vector<PointF> mapped(const CourtMap& map, const std::vector<Place>& places) {
     std::vector<PointF> points;
+    points.reserve(places.size());
     for (const Place place : places) {
         points.push_back(map.at(place));
     }
