@@ -5,10 +5,10 @@
 #include "platform/program_fonts.h"
 #include "platform/spoken_caption.h"
 #include "platform/system_info.h"
+#include "platform/themed_icon.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 
@@ -20,7 +20,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     setAccessibleName(windowTitle());
     setModal(true);
     auto* picture = named(new QLabel, "picIcon", QStringLiteral("Mark of Zeltrona"));
-    picture->setPixmap(QIcon(QStringLiteral(":/art/zeltrona.svg")).pixmap(64, 64));
+    picture->setPixmap(platform::themedIcon(QStringLiteral("zeltrona"), palette()).pixmap(64, 64));
     auto* title =
         named(new QLabel(QStringLiteral("Zeltrona")), "lblTitle", QStringLiteral("Name of the program"));
     title->setFont(platform::headingFont());

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QHash>
+#include <QPointer>
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +19,30 @@ QString artFile(const QString& name, const char* ending) {
 QString themedName(const QString& name, const QPalette& palette, const char* ending) {
     const QString light = name + QStringLiteral("_light");
     return isDark(palette) && QFile::exists(artFile(light, ending)) ? light : name;
+}
+
+QIcon loadIcon(const QString& name, const QString& chosen) {
+    QIcon icon(artFile(chosen, ".svg"));
+    if (const QString on = artFile(name, "_on.svg"); QFile::exists(on)) {
+        icon.addFile(on, {}, QIcon::Normal, QIcon::On);
+    }
+    return icon;
+}
+
+/// The icons made so far, until the application ends. Each icon anew would leave its pictures behind in the
+/// toolkit's cache, and a program that opens windows all day would grow.
+class IconShelf : public QObject {
+public:
+    using QObject::QObject;
+    QHash<QString, QIcon> icons;
+};
+
+QHash<QString, QIcon>& keptIcons() {
+    static QPointer<IconShelf> shelf;
+    if (shelf == nullptr) {
+        shelf = new IconShelf(qApp);
+    }
+    return shelf->icons;
 }
 
 } // namespace
@@ -35,9 +61,10 @@ bool isDark(const QPalette& palette) {
 }
 
 QIcon themedIcon(const QString& name, const QPalette& palette) {
-    QIcon icon(artFile(themedName(name, palette, ".svg"), ".svg"));
-    if (const QString on = artFile(name, "_on.svg"); QFile::exists(on)) {
-        icon.addFile(on, {}, QIcon::Normal, QIcon::On);
+    const QString chosen = themedName(name, palette, ".svg");
+    QIcon& icon = keptIcons()[chosen];
+    if (icon.isNull()) {
+        icon = loadIcon(name, chosen);
     }
     return icon;
 }

@@ -20,6 +20,7 @@ bool isDark(const QPalette& palette);
 
 /// The drawing ":/art/NAME.svg", or its light sister ":/art/NAME_light.svg" on a dark palette; the plain one
 /// where there is no sister. Where ":/art/NAME_on.svg" exists, it is the icon's State::On.
+/// The same icon each time, so that its pictures are made once.
 QIcon themedIcon(const QString& name, const QPalette& palette);
 
 /// The picture ":/art/NAME.png" (on a dark palette ":/art/NAME_light.png") for a screen: of its enlarged
