@@ -1,31 +1,36 @@
 // Long use: memory and open handles of the process while the same thing is done over and over. Prints a row
 // for every tenth of the way and ends each course with its growth from the second tenth on; the first one
-// fills caches. One short pass with
-// --benchmark_min_time given, as the other benchmarks know it.
+// fills caches. One short pass with --benchmark_min_time given, as the other benchmarks know it; one kind
+// alone with its name: frames, redraws, ticks or windows.
 
+#include "animation/draw_animation.h"
+#include "animation/frmMainFullScreen.h"
+#include "animation/prepare_step.h"
+#include "animation/step_players.h"
 #include "assets/resources.h"
 #include "bench/sample_play.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmConfig.h"
 #include "dialogs/frmConfig1.h"
+#include "dialogs/frmHelp.h"
 #include "dialogs/frmInputBox.h"
 #include "dialogs/frmNotes.h"
 #include "dialogs/frmTitle.h"
 #include "dialogs/frmTxtMsg.h"
 #include "document/frame_store.h"
+#include "output/frmDrawPreview.h"
 #include "platform/program_fonts.h"
 #include "render/redraw.h"
 #include "session/frmGameSelect.h"
 #include "session/frmMain.h"
 #include "session/frmSplash.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -83,13 +88,16 @@ void walkFrames(int frames) {
     document::Session session;
     document::FrameRecords records;
     document::loadConfig(play, session, records);
-    course("frames_walked", frames, [&](int i) {
+    const auto visit = [&](int i) {
         session.currFrame = static_cast<std::int16_t>(i + 1);
         document::loadFrame(play, session, records, session.currFrame);
-    });
-    course("frames_saved", std::max(10, frames / 50), [&](int i) {
-        session.currFrame = static_cast<std::int16_t>(i + 1);
-        document::loadFrame(play, session, records, session.currFrame);
+    };
+    // The keys of a frame are found at its first visit and kept: this course alone may grow, by what they
+    // take.
+    course("frames_opened", frames, visit);
+    course("frames_walked", frames, visit);
+    course("frames_saved", frames, [&](int i) {
+        visit(i);
         records.balls.front().x += 1;
         document::saveFrame(play, session, records, session.currFrame, false);
     });
@@ -107,6 +115,70 @@ void redrawBoards(int count) {
     render::BoardSurface pic(size.width(), size.height());
     render::Board board{pic, art};
     course("redraws", count, [&](int) { render::redrawBoard(board, {session, records}, 0, 0); });
+}
+
+/// A clock that nobody winds up.
+class StillClock : public animation::AnimTimer {
+    void startTicks() override {}
+    void stopTicks() override {}
+};
+
+void tick(int count) {
+    const QTemporaryDir folder;
+    const document::PlayFile play(storePlay(folder, 3));
+    document::Session session;
+    document::FrameRecords records;
+    document::loadConfig(play, session, records);
+    document::loadFrame(play, session, records, 1);
+    const render::BoardArt art = render::loadBoardArt();
+    const QSize size = render::boardSizeOf(session.court);
+    render::BoardSurface pic(size.width(), size.height());
+    render::Board board{pic, art};
+    StillClock clock;
+    animation::PlaybackSet set;
+    set.animLastFrame = 3;
+    course("ticks", count, [&](int i) {
+        if (i % 100 == 0) {
+            set.animFrame = static_cast<std::int16_t>(1 + i / 100 % 2);
+            animation::prepareAnimationStep(set, play, records.triangles, clock);
+        }
+        ++set.animTick;
+        animation::stepPlayers(set);
+        animation::drawAnimationStep(board, {set, session, records});
+    });
+}
+
+/// Opened as the user does, over a main window that stays.
+void openFullScreens(int count, document::Session& session, const render::BoardArt& art) {
+    session::frmMain window(session, art);
+    window.setAttribute(Qt::WA_DeleteOnClose, false);
+    window.load();
+    window.show();
+    auto* entry = window.findChild<QAction*>(QStringLiteral("mnuViewFullScreenAnimation"));
+    course("open_frmMainFullScreen", count, [&](int) {
+        entry->trigger();
+        QCoreApplication::processEvents();
+        for (QWidget* one : QApplication::topLevelWidgets()) {
+            if (qobject_cast<animation::frmMainFullScreen*>(one) != nullptr) {
+                one->close();
+            }
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    });
+}
+
+QString helpFile() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/ZP.hlp");
+}
+
+output::PreviewSource blankPages() {
+    return {[] { return std::int16_t{3}; },
+            [](std::int16_t) {
+                QImage page(1190, 1684, QImage::Format_RGB32);
+                page.fill(Qt::white);
+                return page;
+            },
+            QSize(793, 1123)};
 }
 
 void openWindows(int count) {
@@ -137,6 +209,10 @@ void openWindows(int count) {
     course("open_frmInputBox", count,
            [&](int) { openAndClose(new dialogs::frmInputBox(QStringLiteral("Arial"), 238, nullptr)); });
     course("open_frmAbout", count, [&](int) { openAndClose(new dialogs::frmAbout(nullptr)); });
+    course("open_frmHelp", count, [&](int) { openAndClose(new dialogs::frmHelp(helpFile(), nullptr)); });
+    course("open_frmDrawPreview", count,
+           [&](int) { openAndClose(new output::frmDrawPreview(blankPages(), nullptr)); });
+    openFullScreens(count, session, art);
 }
 
 } // namespace
@@ -146,9 +222,24 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     assets::initResources();
     platform::useProgramFonts();
-    const bool isShort = argc > 1 && std::strncmp(argv[1], "--benchmark_min_time", 20) == 0;
-    walkFrames(isShort ? 200 : 10000);
-    redrawBoards(isShort ? 1000 : 100000);
-    openWindows(isShort ? 10 : 1000);
+    if (!QFile::exists(helpFile())) {
+        std::fprintf(stderr, "the help is missing: %s\n", qPrintable(helpFile()));
+        return 1;
+    }
+    const std::string argument = argc > 1 ? argv[1] : "";
+    const bool isShort = argument.starts_with("--benchmark_min_time");
+    const auto isAsked = [&](const char* what) { return isShort || argument.empty() || argument == what; };
+    if (isAsked("frames")) {
+        walkFrames(isShort ? 200 : 10000);
+    }
+    if (isAsked("redraws")) {
+        redrawBoards(isShort ? 1000 : 100000);
+    }
+    if (isAsked("ticks")) {
+        tick(isShort ? 1000 : 1000000);
+    }
+    if (isAsked("windows")) {
+        openWindows(isShort ? 10 : 1000);
+    }
     return 0;
 }
