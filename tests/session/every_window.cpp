@@ -28,13 +28,18 @@ namespace zeltrona::testing {
 
 namespace {
 
-void lookAt(QWidget& window, const LookAtWindow& look) {
-    window.setAttribute(Qt::WA_DeleteOnClose, false);
+void lookAtOpen(QWidget& window, const LookAtWindow& look) {
     window.show();
     window.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window)) << qPrintable(window.objectName());
     settle();
     look(window);
+}
+
+/// A window that its caller owns, closing or not.
+void lookAt(QWidget& window, const LookAtWindow& look) {
+    window.setAttribute(Qt::WA_DeleteOnClose, false);
+    lookAtOpen(window, look);
     window.close();
 }
 
@@ -61,7 +66,7 @@ void lookAtStart(int language, const LookAtWindow& look) {
 void lookAtBoards(int language, const LookAtWindow& look) {
     for (const std::string& bytes : {playOnCourt(1), playOnCourt(3), playWithBodies()}) {
         OpenPlay play(bytes, language);
-        lookAt(play.window(), look);
+        lookAtOpen(play.window(), look);
     }
     OpenPlay play(threeFramePlay(), language);
     choose(play.window(), QStringLiteral("mnuViewFullScreenAnimation"));
