@@ -34,6 +34,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <memory>
 #include <string>
 
 using namespace zeltrona;
@@ -103,18 +104,28 @@ void walkFrames(int frames) {
     });
 }
 
-void redrawBoards(int count) {
-    const QTemporaryDir folder;
-    document::PlayFile play(storePlay(folder, 3));
+/// The first of three frames, loaded, with a board of its court.
+struct OpenBoard {
+    OpenBoard() {
+        document::loadConfig(play, session, records);
+        document::loadFrame(play, session, records, 1);
+        const QSize size = render::boardSizeOf(session.court);
+        pic = std::make_unique<render::BoardSurface>(size.width(), size.height());
+    }
+    render::Board board() { return {*pic, art, {}}; }
+
+    QTemporaryDir folder;
+    document::PlayFile play{storePlay(folder, 3)};
     document::Session session;
     document::FrameRecords records;
-    document::loadConfig(play, session, records);
-    document::loadFrame(play, session, records, 1);
-    const render::BoardArt art = render::loadBoardArt();
-    const QSize size = render::boardSizeOf(session.court);
-    render::BoardSurface pic(size.width(), size.height());
-    render::Board board{pic, art};
-    course("redraws", count, [&](int) { render::redrawBoard(board, {session, records}, 0, 0); });
+    render::BoardArt art = render::loadBoardArt();
+    std::unique_ptr<render::BoardSurface> pic;
+};
+
+void redrawBoards(int count) {
+    OpenBoard open;
+    render::Board board = open.board();
+    course("redraws", count, [&](int) { render::redrawBoard(board, {open.session, open.records}, 0, 0); });
 }
 
 /// A clock that nobody winds up.
@@ -124,27 +135,19 @@ class StillClock : public animation::AnimTimer {
 };
 
 void tick(int count) {
-    const QTemporaryDir folder;
-    const document::PlayFile play(storePlay(folder, 3));
-    document::Session session;
-    document::FrameRecords records;
-    document::loadConfig(play, session, records);
-    document::loadFrame(play, session, records, 1);
-    const render::BoardArt art = render::loadBoardArt();
-    const QSize size = render::boardSizeOf(session.court);
-    render::BoardSurface pic(size.width(), size.height());
-    render::Board board{pic, art};
+    OpenBoard open;
+    render::Board board = open.board();
     StillClock clock;
     animation::PlaybackSet set;
     set.animLastFrame = 3;
     course("ticks", count, [&](int i) {
         if (i % 100 == 0) {
             set.animFrame = static_cast<std::int16_t>(1 + i / 100 % 2);
-            animation::prepareAnimationStep(set, play, records.triangles, clock);
+            animation::prepareAnimationStep(set, open.play, open.records.triangles, clock);
         }
         ++set.animTick;
         animation::stepPlayers(set);
-        animation::drawAnimationStep(board, {set, session, records});
+        animation::drawAnimationStep(board, {set, open.session, open.records});
     });
 }
 

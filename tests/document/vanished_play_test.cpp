@@ -7,10 +7,8 @@
 #include "tests/document/play_folder.h"
 #include "tests/fault/play_acts.h"
 
-#include <array>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <ostream>
 #include <string>
 
 namespace zeltrona::document {
@@ -19,16 +17,7 @@ namespace {
 using tests::PlayAct;
 using tests::PlayFolder;
 
-struct SavingAct {
-    const char* name;
-    int number; ///< of performAct
-    friend std::ostream& operator<<(std::ostream& out, const SavingAct& act) { return out << act.name; }
-};
-constexpr std::array kActs = {SavingAct{"ANewFrame", 6}, SavingAct{"ADeletedFrame", 7},
-                              SavingAct{"ANote", 8},     SavingAct{"ARemovedBall", 9},
-                              SavingAct{"ATitle", 10},   SavingAct{"ASavedFrame", 11}};
-
-class VanishedPlay : public testing::TestWithParam<SavingAct> {
+class VanishedPlay : public testing::TestWithParam<tests::NamedAct> {
 protected:
     /// Four frames with balls and lines.
     VanishedPlay() {
@@ -80,7 +69,7 @@ TEST_P(VanishedPlay, WhoseFolderWentTooIsToldAndComesBackWithTheFolder) {
     EXPECT_EQ(m_folder.get("gone/play.zpf"), m_after);
 }
 
-INSTANTIATE_TEST_SUITE_P(Acts, VanishedPlay, testing::ValuesIn(kActs),
+INSTANTIATE_TEST_SUITE_P(Acts, VanishedPlay, testing::ValuesIn(tests::kStoringActs),
                          [](const auto& given) { return given.param.name; });
 
 } // namespace

@@ -14,7 +14,6 @@
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -23,14 +22,6 @@ using namespace zeltrona::tests;
 
 namespace {
 
-struct NamedAct {
-    const char* name;
-    int number; ///< of doAct
-    friend std::ostream& operator<<(std::ostream& out, const NamedAct& act) { return out << act.name; }
-};
-constexpr std::array kActs = {NamedAct{"a new frame", 6}, NamedAct{"a deleted frame", 7},
-                              NamedAct{"a note", 8},      NamedAct{"a removed ball", 9},
-                              NamedAct{"a title", 10},    NamedAct{"a saved frame", 11}};
 constexpr std::array kErrors = {ENOSPC, EIO, EACCES, EROFS, EINTR, EDQUOT, ENOMEM};
 
 // The play that the acts begin with: act 5 gives it balls and lines, act 0 a frame more.
@@ -150,10 +141,7 @@ TEST_P(FailingCalls, WritesThatTakeNothingAreAFailureAndNoEndlessTry) {
     EXPECT_EQ(m_folder.othersThan(), 0U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Acts, FailingCalls, testing::ValuesIn(kActs), [](const auto& act) {
-    std::string name = act.param.name;
-    std::replace(name.begin(), name.end(), ' ', '_');
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(Acts, FailingCalls, testing::ValuesIn(kStoringActs),
+                         [](const auto& act) { return act.param.name; });
 
 } // namespace
